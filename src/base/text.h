@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Texts are held as the bytes that came. Bytes are read as UTF-8 where they are valid UTF-8, else as Windows-1252.
+namespace brindor {
+
+bool isutf8(std::string_view bytes);
+
+// The text as UTF-8. The five bytes without a meaning in Windows-1252 become U+FFFD.
+std::string toutf8(std::string_view bytes);
+
+// The length of a text in characters.
+std::size_t charactercount(std::string_view bytes);
+
+// A whole number in decimal, "-" before a negative one.
+std::string numbertext(std::int64_t number);
+
+// The number that the whole text is: an optional sign and digits, nothing else. A number too large for 64 bits
+// comes back as the nearer limit of 64 bits; a text of any other form gives nothing.
+std::optional<std::int64_t> wholenumber(std::string_view text);
+
+// The whole number with which a text begins, leading blanks and tabs skipped; 0 where there is none.
+std::int64_t leadingnumber(std::string_view text);
+
+// The number at the head of a text. Blanks, tabs and line feeds are skipped wherever they stand, also between
+// digits. Then come an optional sign, digits with at most one decimal point, and an optional exponent, E or D with
+// an optional sign. &H and &O at the head read a hexadecimal or an octal number. The scan stops at the first other
+// character; a text with no number gives 0. The decimal point is a point, whatever the locale.
+double textvalue(std::string_view text);
+
+// A number in decimal with up to 15 significant digits and no trailing zeros: 12.50 becomes "12.5".
+std::string decimaltext(double number);
+
+// The part of `text` behind a UTF-8 byte order mark, or all of it.
+std::string_view withoutmark(std::string_view text);
+
+} // namespace brindor

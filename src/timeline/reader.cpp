@@ -1,0 +1,197 @@
+#include "timeline/reader.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "timeline/families.h"
+#include "timeline/linereader.h"
+#include "timeline/usedmarks.h"
+#include "toolkit/operations.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace brindor {
+
+namespace {
+
+// The reading of one file. A step that fails leaves its text in `failure` and turns all later steps into nothing,
+// so the order of the file's lines can be read off the code.
+struct Reading {
+    LineReader reader;
+    std::string failure;
+
+    bool ok() const { return failure.empty(); }
+
+    void line(std::string& into, std::string_view expected)
+    {
+        if (ok()) {
+            Result<std::string> text = reader.line(expected);
+            into = text ? std::move(*text.value) : std::move(into);
+            failure = text.reason;
+        }
+    }
+
+    void headline(std::string_view expected)
+    {
+        std::string dropped;
+        line(dropped, expected);
+    }
+
+    template <class... Numbers>
+    void numbers(std::string_view expected, Numbers&... into)
+    {
+        std::array<std::int16_t, sizeof...(into)> read{};
+        if (ok()) {
+            failure = reader.numbers(read, expected).reason;
+        }
+        if (ok()) {
+            auto next = read.begin();
+            ((into = *next++), ...);
+        }
+    }
+
+    void refuse(std::string_view what) { failure = reader.failure(what); }
+};
+
+// One of the first two lines. A count outside 0 to 32767 is a failure, so nothing is sized from an unchecked number.
+std::int16_t readcount(Reading& reading, std::string_view expected)
+{
+    std::string text;
+    reading.line(text, expected);
+    const std::int64_t count = leadingnumber(text);
+    if (reading.ok() && (count < 0 || count > highest16)) {
+        reading.refuse(numbertext(count) + " is no count from 0 to 32767. Correct " + std::string(expected) +
+                       " and choose the period again.");
+    }
+    return reading.ok() ? index16(count) : std::int16_t{0};
+}
+
+void readown(Reading& reading, PersonRec& person)
+{
+    reading.numbers("a person's faction and occupation", person.faction, person.occupation);
+}
+
+void readown(Reading& reading, EventRec& event)
+{
+    reading.numbers("an event's group and two nations", event.group, event.nation1, event.nation2);
+}
+
+template <class Record>
+void readblock(Reading& reading, Record& record)
+{
+    reading.headline("the head line of the next record");
+    reading.line(record.name, "a name");
+    reading.numbers("the first date and its kind", record.date1, record.datetype1);
+    reading.numbers("the second date and its kind", record.date2, record.datetype2);
+    if (reading.ok()) {
+        mindate = std::min(mindate, record.date1);
+        maxdate = std::max(maxdate, record.date2);
+    }
+    reading.line(record.desc1, "the first description line");
+    reading.line(record.desc2, "the second description line");
+    reading.line(record.desc3, "the third description line");
+    readown(reading, record);
+    reading.line(record.imagename, "the picture's name");
+    reading.numbers("the picture's two sizes", record.imagesize1, record.imagesize2);
+    if (reading.ok()) {
+        record.live = 1;
+    }
+}
+
+template <class Family>
+void readfamily(Reading& reading, std::int16_t count)
+{
+    reading.headline("the head line of a section");
+    for (std::int16_t i = 0; i < count && reading.ok(); ++i) {
+        readblock(reading, Family::records()[static_cast<std::size_t>(i)]);
+    }
+}
+
+void readcatalogue(Reading& reading, Catalogue& catalogue, std::int16_t& counter, std::string_view name)
+{
+    const std::string whose = " of the " + std::string(name);
+    reading.headline("the head line" + whose);
+    std::int16_t count = 0;
+    reading.numbers("the count" + whose, count);
+    if (reading.ok() && count < 0) {
+        reading.refuse(numbertext(count) + " is no count from 0 to 32767. Correct the count" + whose +
+                       " and choose the period again.");
+        count = 0;
+        counter = 0;
+        catalogue.resize(1);
+    }
+    if (!reading.ok()) {
+        return;
+    }
+    counter = count;
+    catalogue.resize(static_cast<std::size_t>(count) + 1);
+    for (std::size_t i = 1; i < catalogue.size() && reading.ok(); ++i) {
+        reading.headline("the head line of an entry" + whose);
+        reading.line(catalogue[i].name, "the name of an entry" + whose);
+        reading.numbers("the weight of an entry" + whose, catalogue[i].catweight);
+    }
+}
+
+template <class Family>
+std::string lastname()
+{
+    const double last = Family::count() - 1;
+    const auto& records = Family::records();
+    return last >= 0 && last < static_cast<double>(records.size()) ? records[static_cast<std::size_t>(last)].name
+                                                                   : std::string();
+}
+
+} // namespace
+
+Result<Done> filltimeline(const std::string& filename)
+{
+    Result<LineReader> opened = LineReader::open(filename);
+    if (!opened) {
+        return {std::nullopt, opened.reason};
+    }
+    Reading reading{std::move(*opened.value), {}};
+    mindate = 9999;
+    maxdate = -25000;
+    const std::int16_t peoplelimit = readcount(reading, "the number of people");
+    const std::int16_t eventlimit = readcount(reading, "the number of events");
+    npeople = reading.ok() ? peoplelimit : 0;
+    nevents = reading.ok() ? eventlimit : 0;
+    people.assign(static_cast<std::size_t>(npeople) + 2, {});
+    events.assign(static_cast<std::size_t>(nevents) + 2, {});
+    readfamily<PersonFamily>(reading, peoplelimit);
+    readfamily<EventFamily>(reading, eventlimit);
+    readcatalogue(reading, factions, nfactions, "factions");
+    readcatalogue(reading, occupations, noccupations, "occupations");
+    readcatalogue(reading, groups, ngroups, "groups");
+    readcatalogue(reading, nations, nnations, "nations");
+    if (!reading.ok()) {
+        return {std::nullopt, reading.failure};
+    }
+    curperson = 0;
+    curevent = 0;
+    return {Done{}, {}};
+}
+
+void readtimeline(const std::string& filename)
+{
+    const Result<Done> filled = filltimeline(filename);
+    if (filled) {
+        return;
+    }
+    std::string text = filled.reason;
+    if (npeople >= 1 && nevents >= 1) {
+        text += ' ' + numbertext(peoplecount()) + ' ' + lastname<PersonFamily>() + ' ' + numbertext(eventcount()) + ' ' +
+                lastname<EventFamily>();
+    }
+    toolkit::messagebox(text);
+}
+
+void loadperiod()
+{
+    curfile = periodfile(curperiod);
+    readtimeline(curfile);
+    clearmarks();
+}
+
+} // namespace brindor

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "timeline/catalogue.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// The Timeline: the people and events of one period, as the last load left them. One is in memory at a time.
+namespace brindor {
+
+enum DateKind : std::int16_t { known = 0, approx = 1, reign = 2 };
+
+// Years are plain signed numbers, negative before the common era. A single date has date2 equal to date1.
+struct Dates {
+    std::int16_t date1 = 0;
+    std::int16_t date2 = 0;
+    std::int16_t datetype1 = known; // a DateKind; a hand-made file can hold any other number
+    std::int16_t datetype2 = known;
+};
+
+// What a person and an event have in common.
+struct ItemRec : Dates {
+    std::string name;
+    std::string desc1;
+    std::string desc2;
+    std::string desc3; // read from the file and held; nothing reads it
+    std::string imagename;
+    std::int16_t imagesize1 = 0;
+    std::int16_t imagesize2 = 0;
+    std::int16_t live = 0; // not 0 for a record that belongs in the lists: 1 from a file, -1 from an editor
+};
+
+struct PersonRec : ItemRec {
+    std::int16_t faction = 0; // indices into factions and occupations
+    std::int16_t occupation = 0;
+};
+
+struct EventRec : ItemRec {
+    std::int16_t group = 0; // indices into groups and nations
+    std::int16_t nation1 = 0;
+    std::int16_t nation2 = 0; // equal to nation1 for an event of one nation
+};
+
+// Records 0 to npeople - 1 are in use; a load leaves two empty slots behind them. Written by the load and, while
+// viewonly is 0, by the editors. The counters are whole and at most 32767.
+extern std::vector<PersonRec> people;
+extern std::vector<EventRec> events;
+extern double npeople;
+extern double nevents;
+
+// The counters as loop limits.
+std::int16_t peoplecount();
+std::int16_t eventcount();
+
+// The Catalogues; the first two belong to people, the others to events. Written by the load.
+extern Catalogue factions;
+extern Catalogue occupations;
+extern Catalogue groups;
+extern Catalogue nations;
+extern std::int16_t nfactions;
+extern std::int16_t noccupations;
+extern std::int16_t ngroups;
+extern std::int16_t nnations;
+
+// The date range seen at load: the lowest date1 and the highest date2. Written by the load.
+extern std::int16_t mindate;
+extern std::int16_t maxdate;
+
+// The records that the two editors show. Written by the load (to 0), the editors and the delete operations.
+extern std::int16_t curperson;
+extern std::int16_t curevent;
+
+// The four periods; slot 4 stays empty.
+extern const std::array<std::string, 5> periodnames;
+inline constexpr std::int16_t lastperiod = 3;
+
+extern std::int16_t curperiod; // 0 to 3; written by the settings and the editor chooser
+extern std::string curfile;    // the timeline file last asked for; written by loadperiod
+
+// The timeline lock: while it is 1 the editors browse only. Written by the start (to 1) and by tests.
+extern std::int16_t viewonly;
+
+// The file of a period, "Medieval.bd3". A period outside 0 to 3 gives ".bd3".
+std::string periodfile(std::int16_t period);
+
+} // namespace brindor

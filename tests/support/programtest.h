@@ -1,0 +1,21 @@
+#pragma once
+
+#include "support/memoryhost.h"
+#include "support/scratchfolder.h"
+
+#include <gtest/gtest.h>
+
+namespace brindor::tests {
+
+// A test of its own small world: an empty scratch folder, a host without windows, an empty Timeline, a random
+// generator with a known seed, no planned file faults.
+class ProgramTest : public testing::Test {
+protected:
+    ProgramTest();
+    ~ProgramTest() override;
+
+    ScratchFolder folder;
+    MemoryHost host;
+};
+
+} // namespace brindor::tests

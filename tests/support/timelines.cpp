@@ -1,0 +1,152 @@
+#include "support/timelines.h"
+
+#include "base/numbers.h"
+#include "timeline/usedmarks.h"
+
+#include <utility>
+
+namespace brindor::tests {
+
+namespace {
+
+std::string pair(std::int16_t a, std::int16_t b)
+{
+    return std::to_string(a) + ", " + std::to_string(b);
+}
+
+std::string block(const ItemRec& record, const std::string& head, const std::string& indices)
+{
+    return head + '\n' + record.name + '\n' + pair(record.date1, record.datetype1) + '\n' +
+           pair(record.date2, record.datetype2) + '\n' + record.desc1 + '\n' + record.desc2 + '\n' + record.desc3 + '\n' +
+           indices + '\n' + record.imagename + '\n' + pair(record.imagesize1, record.imagesize2) + '\n';
+}
+
+std::string section(const std::string& head, const Catalogue& entries)
+{
+    std::string text = head + '\n' + std::to_string(entries.size() - 1) + '\n';
+    for (std::size_t i = 1; i < entries.size(); ++i) {
+        text += "--\n" + entries[i].name + '\n' + std::to_string(entries[i].catweight) + '\n';
+    }
+    return text;
+}
+
+template <class Record>
+Record item(const std::string& name, const Dates& dates, const std::string& desc1, const std::string& desc2)
+{
+    Record record;
+    static_cast<Dates&>(record) = dates;
+    record.name = name;
+    record.desc1 = desc1;
+    record.desc2 = desc2;
+    record.live = 1;
+    return record;
+}
+
+} // namespace
+
+Catalogue catalogue(const std::vector<std::string>& names)
+{
+    Catalogue entries(1);
+    for (const std::string& name : names) {
+        entries.push_back({name, 0});
+    }
+    return entries;
+}
+
+void settimeline(std::vector<PersonRec> somepeople, std::vector<EventRec> someevents)
+{
+    npeople = static_cast<double>(somepeople.size());
+    nevents = static_cast<double>(someevents.size());
+    people = std::move(somepeople);
+    people.resize(people.size() + 2);
+    events = std::move(someevents);
+    events.resize(events.size() + 2);
+    curperson = 0;
+    curevent = 0;
+    clearmarks();
+}
+
+void setcatalogues(const std::vector<std::string>& factionnames, const std::vector<std::string>& occupationnames,
+                   const std::vector<std::string>& groupnames, const std::vector<std::string>& nationnames)
+{
+    factions = catalogue(factionnames);
+    occupations = catalogue(occupationnames);
+    groups = catalogue(groupnames);
+    nations = catalogue(nationnames);
+    nfactions = index16(static_cast<std::int64_t>(factionnames.size()));
+    noccupations = index16(static_cast<std::int64_t>(occupationnames.size()));
+    ngroups = index16(static_cast<std::int64_t>(groupnames.size()));
+    nnations = index16(static_cast<std::int64_t>(nationnames.size()));
+}
+
+PersonRec person(const std::string& name, Dates dates, const std::string& desc1, const std::string& desc2,
+                 std::int16_t faction, std::int16_t occupation)
+{
+    PersonRec record = item<PersonRec>(name, dates, desc1, desc2);
+    record.faction = faction;
+    record.occupation = occupation;
+    return record;
+}
+
+EventRec event(const std::string& name, Dates dates, const std::string& desc1, const std::string& desc2,
+               std::int16_t group, std::int16_t nation1, std::int16_t nation2)
+{
+    EventRec record = item<EventRec>(name, dates, desc1, desc2);
+    record.group = group;
+    record.nation1 = nation1;
+    record.nation2 = nation2;
+    return record;
+}
+
+Dates year(std::int16_t date)
+{
+    return {date, date, known, known};
+}
+
+Dates years(std::int16_t date1, std::int16_t date2, std::int16_t kind1, std::int16_t kind2)
+{
+    return {date1, date2, kind1, kind2};
+}
+
+void setnumbered(int peoplewanted, int eventswanted)
+{
+    std::vector<PersonRec> somepeople;
+    std::vector<EventRec> someevents;
+    std::vector<std::string> factionnames;
+    std::vector<std::string> groupnames;
+    for (int i = 0; i < peoplewanted; ++i) {
+        const std::string number = std::to_string(i);
+        const std::int16_t index = index16(i + 1);
+        factionnames.push_back("Faction " + number);
+        somepeople.push_back(person("Person " + number, years(index16(1000 + 10 * i), index16(1005 + 10 * i)),
+                                    "Did deed " + number + ".", "And more.", index, index));
+    }
+    for (int i = 0; i < eventswanted; ++i) {
+        const std::string number = std::to_string(i);
+        const std::int16_t index = index16(i + 1);
+        groupnames.push_back("Group " + number);
+        someevents.push_back(event("Event " + number, year(index16(-500 + 10 * i)), "Was thing " + number + ".",
+                                   "And more.", index, index, index));
+    }
+    setcatalogues(factionnames, factionnames, groupnames, groupnames);
+    settimeline(std::move(somepeople), std::move(someevents));
+}
+
+std::string timelinetext()
+{
+    std::string text = std::to_string(peoplecount()) + " -- Number of people in file\n" + std::to_string(eventcount()) +
+                       " -- Number of events in file\n==== PEOPLE\n";
+    for (std::int16_t i = 0; i < peoplecount(); ++i) {
+        const PersonRec& record = people[static_cast<std::size_t>(i)];
+        text += block(record, "** ", pair(record.faction, record.occupation));
+    }
+    text += "+++ EVENTS\n";
+    for (std::int16_t i = 0; i < eventcount(); ++i) {
+        const EventRec& record = events[static_cast<std::size_t>(i)];
+        text += block(record, "++", pair(record.group, record.nation1) + ", " + std::to_string(record.nation2));
+    }
+    return text + section("=== FACTIONS", factions) + section("=== OCCUPATIONS", occupations) +
+           section("=== GROUPS", groups) + section("=== NATIONS", nations);
+}
+
+} // namespace brindor::tests
