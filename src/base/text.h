@@ -9,6 +9,8 @@
 // Texts are held as the bytes that came. Bytes are read as UTF-8 where they are valid UTF-8, else as Windows-1252.
 namespace brindor {
 
+inline constexpr std::string_view crlf = "\r\n"; // the line break in every text that is shown
+
 bool isutf8(std::string_view bytes);
 
 // The text as UTF-8. The five bytes without a meaning in Windows-1252 become U+FFFD.

@@ -54,6 +54,10 @@ extern double nevents;
 std::int16_t peoplecount();
 std::int16_t eventcount();
 
+// A record by its index; an empty record for an index outside the array.
+const PersonRec& personrec(std::int16_t k);
+const EventRec& eventrec(std::int16_t k);
+
 // The Catalogues; the first two belong to people, the others to events. Written by the load.
 extern Catalogue factions;
 extern Catalogue occupations;

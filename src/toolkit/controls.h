@@ -80,6 +80,7 @@ struct Label : Control {
     Label() : Control(Kind::label) {}
     Align align = Align::left;
     bool outlined = false;      // a thin darker edge, as round a row that something is dropped on
+    double textwidth = 0;       // the text wraps within this width; 0 for the whole label
     std::function<void()> drop; // a dragged bar was dropped here; a label with this event is a drop target
 };
 

@@ -253,6 +253,11 @@ Size displaysize()
     return host().displaysize();
 }
 
+Size framesize()
+{
+    return host().framesize();
+}
+
 LoadedPicture loadpicture(const std::string& file)
 {
     return host().loadpicture(file);

@@ -49,10 +49,12 @@ LoadedPicture MemoryHost::loadpicture(const std::string& file)
     return {std::make_shared<PictureData>(PictureData{std::make_shared<std::string>(file), 640, 480}), 0};
 }
 
-Control& controlof(Screen& screen, const std::string& name)
+Control& controlof(Screen& screen, const std::string& name, Kind kind)
 {
-    const auto found = std::find_if(screen.controls.begin(), screen.controls.end(),
-                                    [&name](const Control* control) { return control->name == name; });
+    const auto found =
+        std::find_if(screen.controls.begin(), screen.controls.end(), [&name, kind](const Control* control) {
+            return control->name == name && control->kind == kind;
+        });
     if (found == screen.controls.end()) {
         throw std::out_of_range(screen.name + " has no control " + name);
     }

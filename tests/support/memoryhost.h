@@ -55,13 +55,13 @@ private:
     toolkit::Host* before_;
 };
 
-// The control of a name; fails the test and ends the program where the screen has none of that name and kind.
-toolkit::Control& controlof(toolkit::Screen& screen, const std::string& name);
+// The control of a name and kind; throws where the screen has none.
+toolkit::Control& controlof(toolkit::Screen& screen, const std::string& name, toolkit::Kind kind);
 
-template <class Kind>
-Kind& find(toolkit::Screen& screen, const std::string& name)
+template <class Control>
+Control& find(toolkit::Screen& screen, const std::string& name)
 {
-    return dynamic_cast<Kind&>(controlof(screen, name));
+    return static_cast<Control&>(controlof(screen, name, Control().kind));
 }
 
 } // namespace brindor::tests

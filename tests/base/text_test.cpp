@@ -1,0 +1,96 @@
+#include "base/numbers.h"
+#include "base/text.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace brindor {
+
+TEST(Text, NumberAtTheHeadOfAText)
+{
+    const struct {
+        const char* text;
+        double value;
+    } cases[] = {
+        {"", 0},          {"abc", 0},       {"-", 0},         {".", 0},          {"12abc", 12},  {" 1 066 ", 1066},
+        {"1\t0\n66", 1066}, {"-44", -44},   {"- 4 4", -44},   {"44 BC", 44},     {"+7", 7},      {"12.50", 12.5},
+        {".5", 0.5},      {"5.", 5},        {"1.2.3", 1.2},   {"1e3", 1000},     {"1d3", 1000},  {"1E-1", 0.1},
+        {"2e", 2},        {"2e+", 2},       {"2e+x", 2},      {"12,5", 12},      {"&H10", 16},   {"&hff", 255},
+        {"&O17", 15},     {"&O18", 1},      {"&HG", 0},       {"&", 0},          {"&X1", 0},     {"--5", 0},
+        {"1e-999", 0},    {"0x10", 0},
+    };
+    for (const auto& c : cases) {
+        EXPECT_DOUBLE_EQ(textvalue(c.text), c.value) << '"' << c.text << '"';
+    }
+    EXPECT_GT(textvalue("1e999"), 1e300);
+    EXPECT_LT(textvalue("-1e999"), -1e300);
+    EXPECT_GT(textvalue(std::string(400, '9')), 1e300);
+    EXPECT_LT(textvalue("0." + std::string(400, '0') + "1"), 1e-300);
+}
+
+TEST(Text, DecimalForm)
+{
+    EXPECT_EQ(decimaltext(1066), "1066");
+    EXPECT_EQ(decimaltext(12.50), "12.5");
+    EXPECT_EQ(decimaltext(-0.0), "0");
+    EXPECT_EQ(decimaltext(0.1 + 0.2), "0.3"); // 15 significant digits
+    EXPECT_EQ(decimaltext(-20000), "-20000");
+}
+
+TEST(Text, WholeAndLeadingNumbers)
+{
+    for (const char* bad : {"", "-", "+", "12x", "1 2", "1.0", "x", "--1", "+-1", " 1"}) {
+        EXPECT_FALSE(wholenumber(bad)) << '"' << bad << '"';
+    }
+    EXPECT_EQ(wholenumber("+12"), 12);
+    EXPECT_EQ(wholenumber("-00012"), -12);
+    EXPECT_EQ(wholenumber("99999999999999999999"), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(wholenumber("-99999999999999999999"), std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(leadingnumber("250 -- Number of people in file"), 250);
+    EXPECT_EQ(leadingnumber("  \t-3x"), -3);
+    EXPECT_EQ(leadingnumber("250 300"), 250);
+    EXPECT_EQ(leadingnumber("12.7"), 12);
+    EXPECT_EQ(leadingnumber("people: 250"), 0);
+    EXPECT_EQ(leadingnumber("   "), 0);
+}
+
+TEST(Text, BytesAreUtf8WhereTheyCanBe)
+{
+    EXPECT_EQ(toutf8("Caf\xC3\xA9"), "Caf\xC3\xA9");
+    EXPECT_EQ(toutf8("Caf\xE9 \x80\x81"), "Caf\xC3\xA9 \xE2\x82\xAC\xEF\xBF\xBD"); // é, the euro sign, no meaning
+    for (const char* bad : {"\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\xF4\x90\x80\x80",
+                            "\x80", "\xE2\x82"}) {
+        EXPECT_FALSE(isutf8(bad));
+        EXPECT_TRUE(isutf8(toutf8(bad)));
+    }
+    EXPECT_EQ(charactercount("Garc\xC3\xAD" "a \xE6\x9D\x8E \xF0\x9F\x8F\x9B"), 10U);
+    EXPECT_EQ(charactercount("Garc\xED" "a"), 6U);
+    EXPECT_EQ(withoutmark("\xEF\xBB\xBF" "12"), "12");
+}
+
+TEST(Numbers, IntoSixteenBits)
+{
+    EXPECT_EQ(toint16(32767), 32767);
+    EXPECT_FALSE(toint16(32768));
+    EXPECT_FALSE(toint16(-32769));
+    const struct {
+        double number;
+        std::int16_t rounded;
+    } cases[] = {{12.5, 12}, {13.5, 14}, {-12.5, -12}, {-13.5, -14}, {0.5, 0}, {1e30, 32767}, {-1e30, -32768},
+                 {2.49, 2},  {std::nan(""), 0}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(roundtoint16(c.number), c.rounded) << c.number;
+    }
+    EXPECT_EQ(clampvalue(5, 1, 10), 5);
+    EXPECT_EQ(clampvalue(0, 1, 10), 1);
+    EXPECT_EQ(clampvalue(25, 1, 10), 10);
+    EXPECT_EQ(clampvalue(5, 9, 3), 3);      // the high bound has the last word
+    EXPECT_EQ(clampvalue(400, 500.5, 10000), 500); // a half to the even neighbour
+    EXPECT_EQ(add16(32760, 10), 32767);
+    EXPECT_EQ(add16(-32760, -10), -32768);
+}
+
+} // namespace brindor
