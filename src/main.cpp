@@ -1,0 +1,2 @@
+#include "frame/mainscreen.h"
+#include "toolkit/operations.h"

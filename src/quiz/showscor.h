@@ -1,0 +1,21 @@
+#pragma once
+
+#include "toolkit/controls.h"
+
+namespace brindor {
+
+// The score screen after every answered question. The quiz screen writes `text1` and `label1`, calls scoreCaption
+// after the score has changed, and shows it.
+struct Showscor : toolkit::Screen {
+    Showscor();
+
+    void scoreCaption(); // writes the score line of the player in turn
+
+    toolkit::Frame frame1;
+    toolkit::Label label1;   // the results heading
+    toolkit::TextBox text1;  // the result of the question
+    toolkit::Button command1;
+    toolkit::Label label2;   // the score line
+};
+
+} // namespace brindor
