@@ -17,8 +17,8 @@ namespace {
 bool refused()
 {
     ++faultplan.calls;
-    const bool hit = faultplan.failat > 0 && (faultplan.forever ? faultplan.calls >= faultplan.failat
-                                                                : faultplan.calls == faultplan.failat);
+    const bool hit = faultplan.failat > 0 &&
+                     (faultplan.forever ? faultplan.calls >= faultplan.failat : faultplan.calls == faultplan.failat);
     if (hit) {
         errno = EIO;
     }

@@ -48,8 +48,7 @@ std::int16_t clampvalue(std::int16_t value, double low, double high)
 
 std::int16_t index16(std::int64_t number)
 {
-    return static_cast<std::int16_t>(
-        std::clamp<std::int64_t>(number, lowest16, highest16));
+    return static_cast<std::int16_t>(std::clamp<std::int64_t>(number, lowest16, highest16));
 }
 
 std::int16_t add16(std::int16_t a, std::int16_t b)

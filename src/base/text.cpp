@@ -22,7 +22,7 @@ std::size_t sequencelength(std::string_view bytes, std::size_t at)
     if (first < 0x80) {
         return 1;
     }
-    const std::size_t length = first >= 0xC2 && first <= 0xDF ? 2
+    const std::size_t length = first >= 0xC2 && first <= 0xDF   ? 2
                                : first >= 0xE0 && first <= 0xEF ? 3
                                : first >= 0xF0 && first <= 0xF4 ? 4
                                                                 : 0;
@@ -57,10 +57,10 @@ void appendcodepoint(std::string& text, char32_t point)
 }
 
 // Windows-1252 from 0x80 to 0x9F; all other bytes are the code points of the same number.
-constexpr std::array<char32_t, 32> windows1252 = {
-    0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
+constexpr std::array<char32_t, 32> windows1252 = {0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD,
+                                                  0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
 
 bool isdigit(char c)
 {
@@ -222,8 +222,9 @@ double textvalue(std::string_view text)
     if (result.ec == std::errc::result_out_of_range) {
         // Too small a number has a negative exponent or nothing but zeros before its point.
         const std::string_view number = std::string_view(kept).substr(first, end - first);
-        const bool small = number.find("e-") != std::string_view::npos ||
-                           (number.find('e') == std::string_view::npos && number.find_first_not_of('0') == number.find('.'));
+        const bool small =
+            number.find("e-") != std::string_view::npos ||
+            (number.find('e') == std::string_view::npos && number.find_first_not_of('0') == number.find('.'));
         const double huge = std::numeric_limits<double>::max();
         return small ? 0 : kept[0] == '-' ? -huge : huge;
     }

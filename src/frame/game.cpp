@@ -40,11 +40,11 @@ bool nothingtoask()
         }
         selected = selected || enabled(type);
     }
-    toolkit::messagebox(selected
-                            ? "The timeline " + curfile +
-                                  " has too few different items for the kinds of question selected. Select other "
-                                  "kinds with the Setup button, or another period with View/Select on the same screen."
-                            : std::string("No kind of question is selected. Select at least one with the Setup button."));
+    toolkit::messagebox(
+        selected ? "The timeline " + curfile +
+                       " has too few different items for the kinds of question selected. Select other "
+                       "kinds with the Setup button, or another period with View/Select on the same screen."
+                 : std::string("No kind of question is selected. Select at least one with the Setup button."));
     return true;
 }
 

@@ -11,9 +11,9 @@
 namespace brindor {
 
 struct FormPlacement {
-    std::int16_t windowstate = 0;  // 0 normal, 1 minimised, 2 maximised
-    std::int32_t backcolor = 0;    // red + 256 x green + 65536 x blue; kept, never applied
-    std::int16_t height = 9000;    // outer size
+    std::int16_t windowstate = 0; // 0 normal, 1 minimised, 2 maximised
+    std::int32_t backcolor = 0;   // red + 256 x green + 65536 x blue; kept, never applied
+    std::int16_t height = 9000;   // outer size
     std::int16_t width = 12000;
 };
 

@@ -7,7 +7,7 @@
 namespace brindor {
 
 struct PlayerRec {
-    std::string name; // empty in a game of one player
+    std::string name;         // empty in a game of one player
     std::int16_t right = 0;   // points won in this game
     std::int16_t asked = 0;   // points that could have been won
     std::int16_t percent = 0; // whole percent of points won, as of the last addscore

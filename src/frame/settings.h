@@ -10,11 +10,11 @@ namespace brindor {
 inline constexpr std::int16_t mostquestions = 10;
 inline constexpr std::int16_t highestdifficulty = 9;
 
-extern std::string mindif;         // lowest difficulty, 1 to 9, as a text; written by the setup screen
-extern std::int16_t maxdif;        // highest difficulty, 1 to 9; written by the setup screen
-extern std::int16_t nquestion;     // questions a game, 1 to 10; written by the setup screen
-extern std::int16_t logstatus;     // 0 off, 1 all, 2 only incorrect; written by the setup screen
-extern std::string titlepicture;   // the main screen's backdrop
+extern std::string mindif;       // lowest difficulty, 1 to 9, as a text; written by the setup screen
+extern std::int16_t maxdif;      // highest difficulty, 1 to 9; written by the setup screen
+extern std::int16_t nquestion;   // questions a game, 1 to 10; written by the setup screen
+extern std::int16_t logstatus;   // 0 off, 1 all, 2 only incorrect; written by the setup screen
+extern std::string titlepicture; // the main screen's backdrop
 
 // Reads the file. What is missing or bad keeps its default; a value out of its range is put into it.
 void readsettings();

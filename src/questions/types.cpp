@@ -75,7 +75,8 @@ std::string nationgroup(std::int16_t item)
 // the bare first date for factions and occupations with dates, the name left out of "What happened on?".
 const std::array<QuestionKind, 14> kinds = {{
     {"Name", Family::either, QuizScreen::none, "", nullptr, nullptr, name},
-    {"Dates for person", Family::people, QuizScreen::mchoice, "Which dates match ", personname, dateshown, datecompared},
+    {"Dates for person", Family::people, QuizScreen::mchoice, "Which dates match ", personname, dateshown,
+     datecompared},
     {"Who was?", Family::people, QuizScreen::mchoice, "Who was ", personname,
      [](std::int16_t item) { return descriptions(personrec(item)); },
      [](std::int16_t item) { return personrec(item).desc1; }},
@@ -88,7 +89,8 @@ const std::array<QuestionKind, 14> kinds = {{
      [](std::int16_t item) { return occupation(item) + ' ' + datetext(item, "-"); },
      [](std::int16_t item) { return occupation(item) + ' ' + date1(item); }},
     {"People by date", Family::people, QuizScreen::qsort, "", nullptr, nullptr, personname},
-    {"Dates for event", Family::events, QuizScreen::mchoice, "Which date(s) match ", eventname, dateshown, datecompared},
+    {"Dates for event", Family::events, QuizScreen::mchoice, "Which date(s) match ", eventname, dateshown,
+     datecompared},
     {"What happened on?", Family::events, QuizScreen::mchoice, "What happened in ", dateshown,
      [](std::int16_t item) { return eventname(item) + " -- " + descriptions(eventrec(item)); },
      [](std::int16_t item) { return descriptions(eventrec(item)); }},

@@ -62,8 +62,7 @@ Mchoice::Mchoice()
     };
     command1.click = [this] { closescreen(*this); };
     cmdhelp.click = [] {
-        messagebox("Click on the best description." + std::string(crlf) +
-                   "Click on skip to move to the next question");
+        messagebox("Click on the best description." + std::string(crlf) + "Click on skip to move to the next question");
     };
 }
 

@@ -13,11 +13,11 @@ struct Qmatch : toolkit::Screen {
     Qmatch();
 
     toolkit::Frame frame1;
-    toolkit::Label label1;               // the question line
-    std::array<toolkit::Button, 5> btn1; // bar b carries the name of chosen(b)
+    toolkit::Label label1;                // the question line
+    std::array<toolkit::Button, 5> btn1;  // bar b carries the name of chosen(b)
     std::array<toolkit::Label, 5> label2; // the descriptions; a position p means label2(p)
-    toolkit::Button command1; // Done
-    toolkit::Button command2; // Skip
+    toolkit::Button command1;             // Done
+    toolkit::Button command2;             // Skip
     toolkit::Button cmdhelp;
 
     std::array<std::int16_t, 6> owner{}; // the bar to which the description at position p belongs

@@ -14,7 +14,7 @@ struct Qsort : toolkit::Screen {
     toolkit::Frame frame1;
     toolkit::Label label1; // the question line
     toolkit::List list1;
-    toolkit::Label label2; // the hint
+    toolkit::Label label2;    // the hint
     toolkit::Button command1; // Done
     toolkit::Button command2; // Help
 

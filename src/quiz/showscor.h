@@ -12,10 +12,10 @@ struct Showscor : toolkit::Screen {
     void scoreCaption(); // writes the score line of the player in turn
 
     toolkit::Frame frame1;
-    toolkit::Label label1;   // the results heading
-    toolkit::TextBox text1;  // the result of the question
+    toolkit::Label label1;  // the results heading
+    toolkit::TextBox text1; // the result of the question
     toolkit::Button command1;
-    toolkit::Label label2;   // the score line
+    toolkit::Label label2; // the score line
 };
 
 } // namespace brindor

@@ -48,7 +48,8 @@ Result<Done> LineReader::fill()
     const Result<std::size_t> got = readsome(file_, std::span(buffer_).subspan(before));
     buffer_.resize(before + got.value.value_or(0));
     if (!got) {
-        return {std::nullopt, failure("cannot be read: " + got.reason + ". Check the disk and choose the period again.")};
+        return {std::nullopt,
+                failure("cannot be read: " + got.reason + ". Check the disk and choose the period again.")};
     }
     ended_ = *got.value == 0;
     return {Done{}, {}};
@@ -61,7 +62,8 @@ Result<std::string> LineReader::line(std::string_view expected)
     while (end == std::string::npos && !ended_) {
         if (buffer_.size() - at_ > longestline) {
             ++lines_;
-            return {std::nullopt, failure("the line is longer than 1048576 bytes. Check that this is a timeline file.")};
+            return {std::nullopt,
+                    failure("the line is longer than 1048576 bytes. Check that this is a timeline file.")};
         }
         searched = buffer_.size() - at_; // the fill moves what is left to the front
         if (Result<Done> more = fill(); !more) {
@@ -96,8 +98,8 @@ Result<Done> LineReader::numbers(std::span<std::int16_t> numbers, std::string_vi
             const std::string_view token = std::string_view(*text.value).substr(at, end - at);
             const std::optional<std::int64_t> number = wholenumber(token);
             if (!number) {
-                return {std::nullopt, failure(quoted(token) + " is not a whole number. Correct " + std::string(expected) +
-                                              " and choose the period again.")};
+                return {std::nullopt, failure(quoted(token) + " is not a whole number. Correct " +
+                                              std::string(expected) + " and choose the period again.")};
             }
             const std::optional<std::int16_t> fitting = toint16(*number);
             if (!fitting) {

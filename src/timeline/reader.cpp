@@ -181,8 +181,8 @@ void readtimeline(const std::string& filename)
     }
     std::string text = filled.reason;
     if (npeople >= 1 && nevents >= 1) {
-        text += ' ' + numbertext(peoplecount()) + ' ' + lastname<PersonFamily>() + ' ' + numbertext(eventcount()) + ' ' +
-                lastname<EventFamily>();
+        text += ' ' + numbertext(peoplecount()) + ' ' + lastname<PersonFamily>() + ' ' + numbertext(eventcount()) +
+                ' ' + lastname<EventFamily>();
     }
     toolkit::messagebox(text);
 }

@@ -66,7 +66,7 @@ struct Control {
     Font font;
     bool visible = true;
     bool enabled = true;
-    bool opaque = true; // false lets the backdrop of the screen through
+    bool opaque = true;         // false lets the backdrop of the screen through
     Screen* screen = nullptr;   // set by add
     Frame* container = nullptr; // set by add; none for a control that lies on the screen itself
 
@@ -86,8 +86,8 @@ struct Label : Control {
 
 struct Button : Control {
     Button() : Control(Kind::button) {}
-    bool bar = false; // a coloured bar that can be picked up and dragged
-    char accesskey = 0; // the letter that Alt presses it with, 0 for none
+    bool bar = false;            // a coloured bar that can be picked up and dragged
+    char accesskey = 0;          // the letter that Alt presses it with, 0 for none
     std::function<void()> press; // a bar only: the mouse went down on it
     std::function<void()> click;
 };
@@ -112,8 +112,8 @@ struct TextBox : Control {
 struct List : Control {
     List() : Control(Kind::list) {}
     std::vector<std::string> lines;
-    std::vector<bool> selected; // one flag a line; shown in colour
-    bool multiselect = false;   // a click toggles a line and nothing else
+    std::vector<bool> selected;                  // one flag a line; shown in colour
+    bool multiselect = false;                    // a click toggles a line and nothing else
     std::function<void(std::int16_t line)> pick; // a person clicked this line
 };
 

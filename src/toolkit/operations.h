@@ -22,12 +22,12 @@ std::string indexed(std::string_view name, std::int64_t index); // "choice", 2 g
 // ---- controls
 void settext(Control& control, std::string text); // raises `change` of a text box whose text changes
 void settooltip(Control& control, std::string tooltip);
-void select(OptionButton& option);           // raises `click` unless it was selected
-void clearselection(OptionButton& option);   // raises nothing
-void additem(List& list, std::string line);  // a line that is not selected
+void select(OptionButton& option);          // raises `click` unless it was selected
+void clearselection(OptionButton& option);  // raises nothing
+void additem(List& list, std::string line); // a line that is not selected
 void additem(Combo& combo, std::string line);
 void clearlist(List& list);
-void clearlist(Combo& combo); // also empties its text
+void clearlist(Combo& combo);                                  // also empties its text
 void selectline(List& list, std::int16_t line, bool selected); // raises nothing; a line outside the list is ignored
 void place(Control& control, const Place& place);
 void moveleft(Control& control, double left);
@@ -44,12 +44,12 @@ void startdrag(Button& bar); // picks the bar up; a bar picked up before is put 
 void enddrag(Button& bar);   // nothing where this bar is not the one picked up
 
 // ---- screens
-void load(Screen& screen);      // the first touch of a screen runs its load; later calls do nothing
-void showmodal(Screen& screen); // loads it, shows it on top and returns when it has closed
+void load(Screen& screen);        // the first touch of a screen runs its load; later calls do nothing
+void showmodal(Screen& screen);   // loads it, shows it on top and returns when it has closed
 void closescreen(Screen& screen); // raises `unload`, once; nothing on a screen that is not open
 void setcaption(Screen& screen, std::string caption);
 void setbackdrop(Screen& screen, PictureRef picture);
-void setwindowstate(Screen& screen, std::int16_t state);   // raises `resize` on a shown screen where it changes
+void setwindowstate(Screen& screen, std::int16_t state);    // raises `resize` on a shown screen where it changes
 void resizeto(Screen& screen, double width, double height); // outer size; the same
 void moveto(Screen& screen, double left, double top);
 // Gives a screen, before it is shown, the outer size that its contents and a margin need.

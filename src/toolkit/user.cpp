@@ -189,7 +189,8 @@ bool userstep(Spin& spin, int step)
 
 bool userresize(Screen& screen, double width, double height, std::int16_t state)
 {
-    if (screen.closed || !screen.shown || (screen.width == width && screen.height == height && screen.windowstate == state)) {
+    if (screen.closed || !screen.shown ||
+        (screen.width == width && screen.height == height && screen.windowstate == state)) {
         return false;
     }
     screen.width = width;

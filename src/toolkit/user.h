@@ -11,23 +11,23 @@
 // before anything else happens.
 namespace brindor::toolkit {
 
-bool userfocus(Control& control);  // the focus came to it, by Tab or a click
-bool userleave(Control& control);  // the focus left it for no other control of the screen
-bool userpress(Button& bar);       // the mouse went down on a bar
+bool userfocus(Control& control);     // the focus came to it, by Tab or a click
+bool userleave(Control& control);     // the focus left it for no other control of the screen
+bool userpress(Button& bar);          // the mouse went down on a bar
 bool userpress(OptionButton& option); // any mouse button went down on it
 bool userclick(Button& button);
 bool userclick(OptionButton& option);
 bool userclick(Picture& picture);
-bool userclick(Label& target);     // with a bar picked up: drops it here; else nothing, and false
-bool userdrop(Label& target);      // the drag ended here
-bool userdropnowhere(Screen& screen); // the drag ended on nothing that takes a bar: the bar is put down
+bool userclick(Label& target);                // with a bar picked up: drops it here; else nothing, and false
+bool userdrop(Label& target);                 // the drag ended here
+bool userdropnowhere(Screen& screen);         // the drag ended on nothing that takes a bar: the bar is put down
 bool userpick(List& list, std::int16_t line); // a click on a line; Space or Return on the current one
 bool userpick(Combo& combo, std::int16_t line);
 bool usertype(TextBox& box, std::string text); // the text as it stands after the typing
 bool usertype(Combo& combo, std::string text);
-bool userstep(Spin& spin, int step); // +1 or -1
+bool userstep(Spin& spin, int step);                                              // +1 or -1
 bool userresize(Screen& screen, double width, double height, std::int16_t state); // outer, twips
-bool userclose(Screen& screen);  // the close control of the title bar
+bool userclose(Screen& screen);                                                   // the close control of the title bar
 bool userescape(Screen& screen); // puts a picked-up bar down, else closes a screen that Escape closes
 bool userreturn(Screen& screen); // presses the default button
 

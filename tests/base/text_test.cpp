@@ -15,12 +15,13 @@ TEST(Text, NumberAtTheHeadOfAText)
         const char* text;
         double value;
     } cases[] = {
-        {"", 0},          {"abc", 0},       {"-", 0},         {".", 0},          {"12abc", 12},  {" 1 066 ", 1066},
-        {"1\t0\n66", 1066}, {"-44", -44},   {"- 4 4", -44},   {"44 BC", 44},     {"+7", 7},      {"12.50", 12.5},
-        {".5", 0.5},      {"5.", 5},        {"1.2.3", 1.2},   {"1e3", 1000},     {"1d3", 1000},  {"1E-1", 0.1},
-        {"2e", 2},        {"2e+", 2},       {"2e+x", 2},      {"12,5", 12},      {"&H10", 16},   {"&hff", 255},
-        {"&O17", 15},     {"&O18", 1},      {"&HG", 0},       {"&", 0},          {"&X1", 0},     {"--5", 0},
-        {"1e-999", 0},    {"0x10", 0},
+        {"", 0},           {"abc", 0},         {"-", 0},      {".", 0},       {"12abc", 12},
+        {" 1 066 ", 1066}, {"1\t0\n66", 1066}, {"-44", -44},  {"- 4 4", -44}, {"44 BC", 44},
+        {"+7", 7},         {"12.50", 12.5},    {".5", 0.5},   {"5.", 5},      {"1.2.3", 1.2},
+        {"1e3", 1000},     {"1d3", 1000},      {"1E-1", 0.1}, {"2e", 2},      {"2e+", 2},
+        {"2e+x", 2},       {"12,5", 12},       {"&H10", 16},  {"&hff", 255},  {"&O17", 15},
+        {"&O18", 1},       {"&HG", 0},         {"&", 0},      {"&X1", 0},     {"--5", 0},
+        {"1e-999", 0},     {"0x10", 0},
     };
     for (const auto& c : cases) {
         EXPECT_DOUBLE_EQ(textvalue(c.text), c.value) << '"' << c.text << '"';
@@ -66,9 +67,15 @@ TEST(Text, BytesAreUtf8WhereTheyCanBe)
         EXPECT_FALSE(isutf8(bad));
         EXPECT_TRUE(isutf8(toutf8(bad)));
     }
-    EXPECT_EQ(charactercount("Garc\xC3\xAD" "a \xE6\x9D\x8E \xF0\x9F\x8F\x9B"), 10U);
-    EXPECT_EQ(charactercount("Garc\xED" "a"), 6U);
-    EXPECT_EQ(withoutmark("\xEF\xBB\xBF" "12"), "12");
+    EXPECT_EQ(charactercount("Garc\xC3\xAD"
+                             "a \xE6\x9D\x8E \xF0\x9F\x8F\x9B"),
+              10U);
+    EXPECT_EQ(charactercount("Garc\xED"
+                             "a"),
+              6U);
+    EXPECT_EQ(withoutmark("\xEF\xBB\xBF"
+                          "12"),
+              "12");
 }
 
 TEST(Numbers, IntoSixteenBits)
@@ -79,15 +86,15 @@ TEST(Numbers, IntoSixteenBits)
     const struct {
         double number;
         std::int16_t rounded;
-    } cases[] = {{12.5, 12}, {13.5, 14}, {-12.5, -12}, {-13.5, -14}, {0.5, 0}, {1e30, 32767}, {-1e30, -32768},
-                 {2.49, 2},  {std::nan(""), 0}};
+    } cases[] = {{12.5, 12},    {13.5, 14},      {-12.5, -12}, {-13.5, -14},     {0.5, 0},
+                 {1e30, 32767}, {-1e30, -32768}, {2.49, 2},    {std::nan(""), 0}};
     for (const auto& c : cases) {
         EXPECT_EQ(roundtoint16(c.number), c.rounded) << c.number;
     }
     EXPECT_EQ(clampvalue(5, 1, 10), 5);
     EXPECT_EQ(clampvalue(0, 1, 10), 1);
     EXPECT_EQ(clampvalue(25, 1, 10), 10);
-    EXPECT_EQ(clampvalue(5, 9, 3), 3);      // the high bound has the last word
+    EXPECT_EQ(clampvalue(5, 9, 3), 3);             // the high bound has the last word
     EXPECT_EQ(clampvalue(400, 500.5, 10000), 500); // a half to the even neighbour
     EXPECT_EQ(add16(32760, 10), 32767);
     EXPECT_EQ(add16(-32760, -10), -32768);

@@ -80,8 +80,8 @@ TEST_F(Selection, BlankTexts)
     const struct {
         std::int16_t type;
         bool drawn;
-    } cases[] = {{1, true}, {2, false}, {3, true}, {4, false}, {5, true},  {6, false}, {7, true},
-                 {8, false}, {9, true}, {10, true}, {11, true}, {12, false}, {13, false}};
+    } cases[] = {{1, true},  {2, false}, {3, true},  {4, false}, {5, true},   {6, false}, {7, true},
+                 {8, false}, {9, true},  {10, true}, {11, true}, {12, false}, {13, false}};
     for (const auto& c : cases) {
         tests::setnumbered(5, 5);
         people.insert(people.begin(), tests::person("", tests::year(1)));

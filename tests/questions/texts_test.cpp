@@ -16,20 +16,22 @@ protected:
     {
         filltables();
         tests::setcatalogues({"Rome", "Egypt"}, {"General", "Queen"}, {"War", "Law"}, {"Gaul", "Parthia", "Gaul"});
-        tests::settimeline({tests::person("Caesar", tests::years(-100, -44, approx, known), "Crossed the Rubicon.",
-                                          "Killed on the Ides.", 1, 1),
-                            tests::person("Cleopatra", tests::years(-69, -30, reign, reign), "Last of her line.", "", 2, 0)},
-                           {tests::event("Alesia", tests::year(-52), "A siege.", "Vercingetorix yields.", 1, 1, 1),
-                            tests::event("Carrhae", tests::years(-53, 7), "", "", 0, 2, 3)});
+        tests::settimeline(
+            {tests::person("Caesar", tests::years(-100, -44, approx, known), "Crossed the Rubicon.",
+                           "Killed on the Ides.", 1, 1),
+             tests::person("Cleopatra", tests::years(-69, -30, reign, reign), "Last of her line.", "", 2, 0)},
+            {tests::event("Alesia", tests::year(-52), "A siege.", "Vercingetorix yields.", 1, 1, 1),
+             tests::event("Carrhae", tests::years(-53, 7), "", "", 0, 2, 3)});
     }
 };
 
 TEST_F(Texts, DatesOfEveryKind)
 {
     const char* equal[] = {"1200", "ca. 1200", "(reign) 1200"};
-    const char* different[3][3] = {{"1200 to 1250", "1200 to ca. 1250", "1200 to (reign) 1250"},
-                                   {"ca. 1200 to 1250", "ca. 1200 to ca. 1250", "ca. 1200 to (reign) 1250"},
-                                   {"(reign) 1200 to 1250", "(reign) 1200 to ca. 1250", "(reign) 1200 to (reign) 1250"}};
+    const char* different[3][3] = {
+        {"1200 to 1250", "1200 to ca. 1250", "1200 to (reign) 1250"},
+        {"ca. 1200 to 1250", "ca. 1200 to ca. 1250", "ca. 1200 to (reign) 1250"},
+        {"(reign) 1200 to 1250", "(reign) 1200 to ca. 1250", "(reign) 1200 to (reign) 1250"}};
     for (std::int16_t one = 0; one < 3; ++one) {
         for (std::int16_t two = 0; two < 3; ++two) {
             for (const double family : {1.0, 0.0}) {
@@ -45,7 +47,8 @@ TEST_F(Texts, DatesOfEveryKind)
     }
     isperson = 1;
     tests::settimeline({tests::person("a", tests::years(-500, -450)), tests::person("b", tests::years(1250, 1200)),
-                        tests::person("c", tests::years(1200, 1250, 7, 0)), tests::person("d", tests::years(1200, 1250, 0, -1)),
+                        tests::person("c", tests::years(1200, 1250, 7, 0)),
+                        tests::person("d", tests::years(1200, 1250, 0, -1)),
                         tests::person("e", tests::years(1200, 1200, 3, 0))},
                        {});
     EXPECT_EQ(datetext(0, "-"), "-500 - -450");
@@ -81,7 +84,8 @@ TEST_F(Texts, EveryTypesQuestionChoiceAndComparison)
     } cases[] = {
         {1, "Which dates match Caesar", "ca. -100 to -44", "ca. -100 - -44", "(reign) -69 to (reign) -30"},
         {2, "Who was Caesar", "Crossed the Rubicon. Killed on the Ides.", "Crossed the Rubicon.", "Last of her line. "},
-        {3, "Match people with faction and date(s)", "Rome ca. -100 - -44", "Rome -100", "Egypt (reign) -69 - (reign) -30"},
+        {3, "Match people with faction and date(s)", "Rome ca. -100 - -44", "Rome -100",
+         "Egypt (reign) -69 - (reign) -30"},
         {4, "Match people with faction and occupation", "Rome General", "Rome General", "Egypt "},
         {5, "Match people with occupation and date(s)", "General ca. -100 - -44", "General -100",
          " (reign) -69 - (reign) -30"},

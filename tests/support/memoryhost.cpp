@@ -52,9 +52,8 @@ LoadedPicture MemoryHost::loadpicture(const std::string& file)
 Control& controlof(Screen& screen, const std::string& name, Kind kind)
 {
     const auto found =
-        std::find_if(screen.controls.begin(), screen.controls.end(), [&name, kind](const Control* control) {
-            return control->name == name && control->kind == kind;
-        });
+        std::find_if(screen.controls.begin(), screen.controls.end(),
+                     [&name, kind](const Control* control) { return control->name == name && control->kind == kind; });
     if (found == screen.controls.end()) {
         throw std::out_of_range(screen.name + " has no control " + name);
     }

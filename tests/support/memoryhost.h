@@ -28,8 +28,8 @@ public:
 
     std::deque<bool> answers; // to the coming questions; No when none is left
     std::vector<toolkit::Message> messages;
-    std::vector<std::string> shown;            // names of the screens, in the order in which they were shown
-    std::map<std::string, int> pictures;       // 0 for a picture that loads, else its error number
+    std::vector<std::string> shown;      // names of the screens, in the order in which they were shown
+    std::map<std::string, int> pictures; // 0 for a picture that loads, else its error number
     std::vector<std::string> picturesasked;
     std::vector<std::string> viewed;
     toolkit::Size display{1024 * 15, 768 * 15};

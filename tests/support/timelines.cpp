@@ -17,8 +17,8 @@ std::string pair(std::int16_t a, std::int16_t b)
 std::string block(const ItemRec& record, const std::string& head, const std::string& indices)
 {
     return head + '\n' + record.name + '\n' + pair(record.date1, record.datetype1) + '\n' +
-           pair(record.date2, record.datetype2) + '\n' + record.desc1 + '\n' + record.desc2 + '\n' + record.desc3 + '\n' +
-           indices + '\n' + record.imagename + '\n' + pair(record.imagesize1, record.imagesize2) + '\n';
+           pair(record.date2, record.datetype2) + '\n' + record.desc1 + '\n' + record.desc2 + '\n' + record.desc3 +
+           '\n' + indices + '\n' + record.imagename + '\n' + pair(record.imagesize1, record.imagesize2) + '\n';
 }
 
 std::string section(const std::string& head, const Catalogue& entries)

@@ -16,15 +16,16 @@ namespace brindor {
 using tests::writefile;
 
 // A small file with every kind of line; each test takes it as it is or damages one place.
-const std::string smallfile = "2 -- Number of people in file\n1 -- Number of events in file\n==== PEOPLE\n"
-                              "** 1\nAda, Countess\n1815, 0\n1852, 0\nWrote, first, programs.\nSecond.\nThird.\n1, 1\nada.png\n32, 48\n"
-                              "** 2\nOtto\n912, 1\n973, 2\nd\ne\n\n0, 1\n\n0, 0\n"
-                              "+++ EVENTS\n"
-                              "++1\nHastings\n1066, 0\n1066, 0\nf\ng\nh\n1, 2, 1\nmaps/h.png\n640, 480\n"
-                              "=== FACTIONS\n1\n--\nBritain\n7\n"
-                              "=== OCCUPATIONS\n1\n--\nMathematician\n1\n"
-                              "=== GROUPS\n1\n--\nWar\n2\n"
-                              "=== NATIONS\n2\n--\nNormandy\n1\n--\nEngland\n9\n";
+const std::string smallfile =
+    "2 -- Number of people in file\n1 -- Number of events in file\n==== PEOPLE\n"
+    "** 1\nAda, Countess\n1815, 0\n1852, 0\nWrote, first, programs.\nSecond.\nThird.\n1, 1\nada.png\n32, 48\n"
+    "** 2\nOtto\n912, 1\n973, 2\nd\ne\n\n0, 1\n\n0, 0\n"
+    "+++ EVENTS\n"
+    "++1\nHastings\n1066, 0\n1066, 0\nf\ng\nh\n1, 2, 1\nmaps/h.png\n640, 480\n"
+    "=== FACTIONS\n1\n--\nBritain\n7\n"
+    "=== OCCUPATIONS\n1\n--\nMathematician\n1\n"
+    "=== GROUPS\n1\n--\nWar\n2\n"
+    "=== NATIONS\n2\n--\nNormandy\n1\n--\nEngland\n9\n";
 
 std::string replaced(std::string text, const std::string& what, const std::string& with)
 {
@@ -72,9 +73,9 @@ TEST_F(Reader, FormsThatReadAlike)
         withcrlf.replace(at, 1, "\r\n");
     }
     const std::string forms[] = {
-        whole,                                                     // the last line needs no end
+        whole, // the last line needs no end
         withcrlf,
-        "\xEF\xBB\xBF" + smallfile,                                // byte order mark
+        "\xEF\xBB\xBF" + smallfile, // byte order mark
         replaced(smallfile, "1815, 0", "1815 0"),
         replaced(smallfile, "1815, 0", "1815,0"),
         replaced(smallfile, "1815, 0", "1815\n0"),
@@ -102,20 +103,26 @@ TEST_F(Reader, FailureTexts)
              "the period again."},
         {replaced(smallfile, "2 --", "-2 --"), "T.bd3, line 1: -2 is no count from 0 to 32767. Correct the number of "
                                                "people and choose the period again."},
-        {replaced(smallfile, "1 --", "40000 --"), "T.bd3, line 2: 40000 is no count from 0 to 32767. Correct the number "
-                                                  "of events and choose the period again."},
-        {replaced(smallfile, "1815, 0", "12x, 0"), "T.bd3, line 6: \"12x\" is not a whole number. Correct the first date "
-                                                   "and its kind and choose the period again. 2  1 "},
-        {replaced(smallfile, "1815, 0", "1815.5, 0"), "T.bd3, line 6: \"1815.5\" is not a whole number. Correct the first "
-                                                      "date and its kind and choose the period again. 2  1 "},
-        {replaced(smallfile, "1852, 0", "1852, 32768"), "T.bd3, line 7: \"32768\" is outside -32768 to 32767. Correct the "
-                                                        "second date and its kind and choose the period again. 2  1 "},
+        {replaced(smallfile, "1 --", "40000 --"),
+         "T.bd3, line 2: 40000 is no count from 0 to 32767. Correct the number "
+         "of events and choose the period again."},
+        {replaced(smallfile, "1815, 0", "12x, 0"),
+         "T.bd3, line 6: \"12x\" is not a whole number. Correct the first date "
+         "and its kind and choose the period again. 2  1 "},
+        {replaced(smallfile, "1815, 0", "1815.5, 0"),
+         "T.bd3, line 6: \"1815.5\" is not a whole number. Correct the first "
+         "date and its kind and choose the period again. 2  1 "},
+        {replaced(smallfile, "1852, 0", "1852, 32768"),
+         "T.bd3, line 7: \"32768\" is outside -32768 to 32767. Correct the "
+         "second date and its kind and choose the period again. 2  1 "},
         {replaced(smallfile, "2\n--\nNormandy", "-2\n--\nNormandy"),
-         "T.bd3, line 51: -2 is no count from 0 to 32767. Correct the count of the nations and choose the period again." +
+         "T.bd3, line 51: -2 is no count from 0 to 32767. Correct the count of the nations and choose the period "
+         "again." +
              last},
         {smallfile.substr(0, smallfile.find("England")),
          "T.bd3, line 55: the file ends here, but the name of an entry of the nations should follow. Complete the file "
-         "and choose the period again." + last},
+         "and choose the period again." +
+             last},
     };
     for (const auto& c : cases) {
         tests::settimeline({}, {});
@@ -149,8 +156,9 @@ TEST_F(Reader, AMissingFileChangesNothing)
     usedmarks[0] = 3;
     curperiod = 2;
     loadperiod();
-    EXPECT_EQ(host.messages.back().text, "Medieval.bd3 cannot be opened: No such file or directory. Put the file into the "
-                                         "program's folder, or choose another period. 2 Otto 1 Hastings");
+    EXPECT_EQ(host.messages.back().text,
+              "Medieval.bd3 cannot be opened: No such file or directory. Put the file into the "
+              "program's folder, or choose another period. 2 Otto 1 Hastings");
     EXPECT_EQ(tests::timelinetext(), before);
     EXPECT_EQ(mindate, 912);
     EXPECT_EQ(curfile, "Medieval.bd3");
@@ -188,7 +196,8 @@ RC_GTEST_FIXTURE_PROP(Reader, DamagedFilesNeverBreakIt, ())
             text.insert(at, 1, with);
         }
     }
-    text.resize(*rc::gen::weightedOneOf<std::size_t>({{3, rc::gen::just(text.size())}, {1, rc::gen::inRange<std::size_t>(0, text.size())}}));
+    text.resize(*rc::gen::weightedOneOf<std::size_t>(
+        {{3, rc::gen::just(text.size())}, {1, rc::gen::inRange<std::size_t>(0, text.size())}}));
     writefile("T.bd3", text);
     host.messages.clear();
     readtimeline("T.bd3");
