@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -49,7 +50,7 @@ Result<OpenFile> openregular(const std::string& path, int flags)
         return failed<OpenFile>();
     }
     if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
-        return {std::nullopt, "Not a regular file"};
+        return {std::nullopt, std::string(notregularreason)};
     }
     const mode_t readableforall = 0666;
     OpenFile file(::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, readableforall));
@@ -60,7 +61,7 @@ Result<OpenFile> openregular(const std::string& path, int flags)
         return failed<OpenFile>();
     }
     if (!S_ISREG(status.st_mode)) {
-        return {std::nullopt, "Not a regular file"};
+        return {std::nullopt, std::string(notregularreason)};
     }
     return {std::move(file), {}};
 }
@@ -164,7 +165,7 @@ Result<std::string> readwhole(const std::string& path, std::size_t limit)
         }
         content.resize(before + *got.value);
         if (content.size() > limit) {
-            return {std::nullopt, "File too large"};
+            return {std::nullopt, std::string(toolargereason)};
         }
         if (*got.value == 0) {
             return {std::move(content), {}};
@@ -186,7 +187,7 @@ Result<Done> replacefile(const std::string& path, std::string_view content)
 {
     struct stat status {};
     if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
-        return {std::nullopt, "Not a regular file"};
+        return {std::nullopt, std::string(notregularreason)};
     }
     const std::string temporary = path + ".new";
     Result<Done> result = writeandclose(temporary, O_WRONLY | O_CREAT | O_TRUNC, content, true);
@@ -203,6 +204,19 @@ bool isregularfile(const std::string& path)
 {
     struct stat status {};
     return !refused() && ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+Result<Done> makefolder(const std::string& path)
+{
+    if (path.empty()) {
+        return done();
+    }
+    if (refused()) {
+        return failed<Done>();
+    }
+    std::error_code error;
+    std::filesystem::create_directories(path, error);
+    return error ? Result<Done>{std::nullopt, error.message()} : done();
 }
 
 Result<Done> enterdirectory(const std::string& path)

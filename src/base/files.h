@@ -13,6 +13,9 @@
 // Every failure's reason is the system's own text, as in "No such file or directory".
 namespace brindor {
 
+inline constexpr std::string_view notregularreason = "Not a regular file";
+inline constexpr std::string_view toolargereason = "File too large";
+
 // An open file; closes itself when it goes out of scope.
 class OpenFile {
 public:
@@ -48,6 +51,9 @@ Result<Done> emptyfile(const std::string& path);
 Result<Done> replacefile(const std::string& path, std::string_view content);
 
 bool isregularfile(const std::string& path);
+
+// Makes a folder and those above it that are missing. Nothing to do where it stands, and for an empty path.
+Result<Done> makefolder(const std::string& path);
 
 Result<Done> enterdirectory(const std::string& path);
 

@@ -159,6 +159,11 @@ std::string numbertext(std::int64_t number)
     return std::to_string(number);
 }
 
+std::string spacednumber(std::int64_t number)
+{
+    return (number < 0 ? "" : " ") + numbertext(number);
+}
+
 std::optional<std::int64_t> wholenumber(std::string_view text)
 {
     const std::size_t digits = !text.empty() && issign(text.front()) ? 1 : 0;

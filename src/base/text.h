@@ -22,6 +22,9 @@ std::size_t charactercount(std::string_view bytes);
 // A whole number in decimal, "-" before a negative one.
 std::string numbertext(std::int64_t number);
 
+// The same with a blank where the minus sign would stand: " 53", "-53".
+std::string spacednumber(std::int64_t number);
+
 // The number that the whole text is: an optional sign and digits, nothing else. A number too large for 64 bits
 // comes back as the nearer limit of 64 bits; a text of any other form gives nothing.
 std::optional<std::int64_t> wholenumber(std::string_view text);

@@ -143,12 +143,12 @@ void MainScreen::arrange()
     const double count = static_cast<double>(buttons.size());
     const double rowwidth = count * buttonwidth + (count - 1) * gap;
     const bool row = rowwidth + 2 * margin <= inwidth;
-    double left = row ? (inwidth - rowwidth) / 2 : (inwidth - buttonwidth) / 2;
-    double top = inheight - margin - (row ? buttonheight : count * buttonheight + (count - 1) * gap);
+    double x = row ? (inwidth - rowwidth) / 2 : (inwidth - buttonwidth) / 2;
+    double y = inheight - margin - (row ? buttonheight : count * buttonheight + (count - 1) * gap);
     for (Button* button : buttons) {
-        place(*button, {left, top, buttonwidth, buttonheight});
-        left += row ? buttonwidth + gap : 0;
-        top += row ? 0 : buttonheight + gap;
+        place(*button, {x, y, buttonwidth, buttonheight});
+        x += row ? buttonwidth + gap : 0;
+        y += row ? 0 : buttonheight + gap;
     }
 }
 

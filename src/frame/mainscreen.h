@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/title.h"
 #include "toolkit/controls.h"
 
 #include <string>
@@ -7,7 +8,6 @@
 
 namespace brindor {
 
-inline constexpr std::string_view titletext = "Brindor History Trivia Game";
 inline constexpr std::string_view versiontext = "1.03";
 
 // The program's first and last screen. Its load is the start-up; closing it writes the settings.

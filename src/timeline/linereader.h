@@ -23,6 +23,8 @@ public:
     // the line on which the last of them stands.
     Result<Done> numbers(std::span<std::int16_t> numbers, std::string_view expected);
 
+    std::int64_t linesread() const { return lines_; }
+
     // A failure at the line last read: "Medieval.bd3, line 214: " and `what`.
     std::string failure(std::string_view what) const;
 

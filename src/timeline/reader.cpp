@@ -100,10 +100,13 @@ void readblock(Reading& reading, Record& record)
 }
 
 template <class Family>
-void readfamily(Reading& reading, std::int16_t count)
+void readfamily(Reading& reading, std::int16_t count, std::vector<std::int64_t>* lines)
 {
     reading.headline("the head line of a section");
     for (std::int16_t i = 0; i < count && reading.ok(); ++i) {
+        if (lines != nullptr) {
+            lines->push_back(reading.reader.linesread() + 2); // behind the record's head line
+        }
         readblock(reading, Family::records()[static_cast<std::size_t>(i)]);
     }
 }
@@ -144,7 +147,7 @@ std::string lastname()
 
 } // namespace
 
-Result<Done> filltimeline(const std::string& filename)
+Result<Done> filltimeline(const std::string& filename, RecordLines* lines)
 {
     Result<LineReader> opened = LineReader::open(filename);
     if (!opened) {
@@ -159,8 +162,8 @@ Result<Done> filltimeline(const std::string& filename)
     nevents = reading.ok() ? eventlimit : 0;
     people.assign(static_cast<std::size_t>(npeople) + 2, {});
     events.assign(static_cast<std::size_t>(nevents) + 2, {});
-    readfamily<PersonFamily>(reading, peoplelimit);
-    readfamily<EventFamily>(reading, eventlimit);
+    readfamily<PersonFamily>(reading, peoplelimit, lines != nullptr ? &lines->people : nullptr);
+    readfamily<EventFamily>(reading, eventlimit, lines != nullptr ? &lines->events : nullptr);
     readcatalogue(reading, factions, nfactions, "factions");
     readcatalogue(reading, occupations, noccupations, "occupations");
     readcatalogue(reading, groups, ngroups, "groups");

@@ -2,7 +2,9 @@
 
 #include "base/result.h"
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace brindor {
 
@@ -14,7 +16,14 @@ void loadperiod();
 // cannot be opened changes nothing at all.
 void readtimeline(const std::string& filename);
 
-// The same without the message: the failure text is handed back.
-Result<Done> filltimeline(const std::string& filename);
+// The line, from 1, on which each record's name stands.
+struct RecordLines {
+    std::vector<std::int64_t> people;
+    std::vector<std::int64_t> events;
+};
+
+// The same without the message: the failure text is handed back. Where `lines` is given, the lines of the records
+// that were read are added to it.
+Result<Done> filltimeline(const std::string& filename, RecordLines* lines = nullptr);
 
 } // namespace brindor

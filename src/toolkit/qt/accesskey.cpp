@@ -1,0 +1,31 @@
+#include "toolkit/qt/accesskey.h"
+
+#include "toolkit/qt/qttext.h"
+
+#include <QKeySequence>
+#include <QShortcutEvent>
+
+namespace brindor::toolkit::qt {
+
+void bringcaption(QAbstractButton& button, const QString& text, char accesskey)
+{
+    if (const QString caption = withoutmnemonic(text); button.text() != caption) {
+        button.setText(caption);
+    }
+    const QKeySequence sequence =
+        accesskey == 0 ? QKeySequence() : QKeySequence(QLatin1String("Alt+") + QLatin1Char(accesskey));
+    if (button.shortcut() != sequence) {
+        button.setShortcut(sequence);
+    }
+}
+
+bool pressedbyaccesskey(QAbstractButton& button, const QEvent& event)
+{
+    if (event.type() != QEvent::Shortcut || static_cast<const QShortcutEvent&>(event).isAmbiguous()) {
+        return false;
+    }
+    button.click();
+    return true;
+}
+
+} // namespace brindor::toolkit::qt

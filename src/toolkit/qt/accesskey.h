@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QString>
+
+namespace brindor::toolkit::qt {
+
+// Gives the button its caption for assistive tools, and the letter that presses it together with Alt, 0 for none.
+void bringcaption(QAbstractButton& button, const QString& text, char accesskey);
+
+// Whether the event was the button's access key, which then has pressed it, at once and not after a show of pressing.
+bool pressedbyaccesskey(QAbstractButton& button, const QEvent& event);
+
+} // namespace brindor::toolkit::qt

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "toolkit/controls.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+#include <QPalette>
+#include <QRect>
+
+// How the windows look: colours, fonts and the few shapes that every kind of control is drawn with.
+namespace brindor::toolkit::qt {
+
+inline constexpr int textmargin = 8; // pixels between the edge of a coloured surface and its text
+
+// The style, palette and fonts of the whole application; nothing of the desktop's theme is left in force.
+void dressapplication();
+
+QColor qtcolour(Colour colour);
+QFont qtfont(const Font& font);
+
+// Every role that a widget of the control draws with.
+QPalette palettefor(const Control& control);
+
+// The colour of the control's letters, paler while it cannot be used.
+QColor lettercolour(const Control& control, bool usable);
+
+QColor edgecolour(const QColor& surface); // a darker line round a surface of this colour
+
+struct SurfaceLook {
+    bool hovered = false;
+    bool pressed = false;
+    bool strongedge = false;
+    bool pickedup = false; // an outline that stands out from everything else
+    bool focused = false;
+};
+
+// A flat surface with a thin darker edge.
+void drawsurface(QPainter& painter, const QRect& rect, const QColor& colour, const SurfaceLook& look);
+
+// The line round the control that has the keyboard.
+void drawfocus(QPainter& painter, const QRect& rect);
+
+} // namespace brindor::toolkit::qt

@@ -1,0 +1,73 @@
+#include "toolkit/qt/appearance.h"
+#include "toolkit/qt/qttext.h"
+#include "toolkit/qt/view.h"
+
+#include <QFontMetrics>
+#include <QGroupBox>
+#include <QPainter>
+
+namespace brindor::toolkit::qt {
+
+namespace {
+
+// A container. With a border it draws a thin line round its contents, broken by the caption at the top.
+class FrameWidget : public QGroupBox {
+public:
+    FrameWidget(const Frame& frame, QWidget* parent) : QGroupBox(parent), frame_(frame) {}
+
+    void bring()
+    {
+        const QString caption = frame_.border ? withoutmnemonic(shown(frame_.text)) : QString();
+        if (title() != caption) {
+            setTitle(caption);
+        }
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        const QColor back = qtcolour(frame_.back);
+        if (frame_.opaque) {
+            painter.fillRect(rect(), back);
+        }
+        if (!frame_.border) {
+            return;
+        }
+        const QFontMetrics metrics(font());
+        const QString caption = shown(frame_.text);
+        const int line = metrics.height() / 2;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(edgecolour(back), 1));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, line + 0.5, -0.5, -0.5), 3, 3);
+        if (!caption.trimmed().isEmpty()) {
+            const QRect words(textmargin, 0, metrics.horizontalAdvance(caption) + 8, metrics.height());
+            painter.fillRect(words, back);
+            painter.setPen(lettercolour(frame_, isEnabled()));
+            painter.drawText(words, Qt::AlignCenter | Qt::TextSingleLine, caption);
+        }
+    }
+
+private:
+    const Frame& frame_;
+};
+
+class FrameView : public View {
+public:
+    FrameView(ScreenWindow& window, Frame& frame, FrameWidget* widget) : View(window, frame, widget), widget_(*widget) {}
+
+protected:
+    void bringkind() override { widget_.bring(); }
+
+private:
+    FrameWidget& widget_;
+};
+
+} // namespace
+
+View* makeframe(ScreenWindow& window, Frame& frame, QWidget* parent)
+{
+    return new FrameView(window, frame, new FrameWidget(frame, parent));
+}
+
+} // namespace brindor::toolkit::qt

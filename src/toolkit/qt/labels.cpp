@@ -1,0 +1,138 @@
+#include "toolkit/qt/appearance.h"
+#include "toolkit/qt/qttext.h"
+#include "toolkit/qt/screenwindow.h"
+#include "toolkit/qt/twips.h"
+#include "toolkit/qt/view.h"
+#include "toolkit/qt/wrappedtext.h"
+#include "toolkit/user.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace brindor::toolkit::qt {
+
+namespace {
+
+// A label that shows its text whole. One with a drop event is also a thing to click and to Tab to.
+class LabelWidget : public QLabel {
+public:
+    LabelWidget(Label& label, QWidget* parent) : QLabel(parent), label_(label)
+    {
+        setTextFormat(Qt::PlainText);
+        if (label.drop) {
+            setAttribute(Qt::WA_Hover);
+            setFocusPolicy(Qt::StrongFocus);
+        }
+    }
+
+    void bring()
+    {
+        const QString text = shown(label_.text);
+        if (QLabel::text() != text) {
+            setText(text);
+        }
+        text_.set(text, font(), label_.align);
+    }
+
+    int heightneeded(int width)
+    {
+        const QMargins margins = inner();
+        const int text = text_.heightfor(textwidth(width));
+        return text == 0 ? 0 : text + margins.top() + margins.bottom();
+    }
+
+    void highlight(bool on)
+    {
+        highlighted_ = on;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        const bool aimedat = highlighted_ || (label_.drop && underMouse() && label_.screen->dragged != nullptr);
+        if (label_.opaque) {
+            painter.fillRect(rect(), aimedat ? qtcolour(label_.back).lighter(125) : qtcolour(label_.back));
+        }
+        if (label_.outlined) {
+            painter.setPen(QPen(edgecolour(qtcolour(label_.back)), aimedat ? 3 : 1));
+            painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        }
+        if (hasFocus()) {
+            drawfocus(painter, rect());
+        }
+        const QMargins margins = inner();
+        const QRect within(margins.left(), margins.top(), textwidth(width()), height() - margins.top() - margins.bottom());
+        text_.draw(painter, within, lettercolour(label_, isEnabled()));
+    }
+
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        pressed_ = label_.drop && event->button() == Qt::LeftButton;
+        event->setAccepted(pressed_);
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (pressed_ && rect().contains(event->position().toPoint())) {
+            pressed_ = false;
+            userclick(label_);
+        }
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (label_.drop && ScreenWindow::presses(*event)) {
+            userclick(label_);
+        } else {
+            QLabel::keyPressEvent(event);
+        }
+    }
+
+private:
+    // A coloured surface keeps its text off the edge; a plain one lines its text up with what stands above it.
+    QMargins inner() const
+    {
+        const Colour around = label_.container == nullptr ? label_.screen->back : label_.container->back;
+        const bool surface = label_.outlined || (label_.opaque && label_.back != around);
+        return surface ? QMargins(textmargin, 3, textmargin, 3) : QMargins();
+    }
+
+    int textwidth(int width) const
+    {
+        const QMargins margins = inner();
+        const int whole = width - margins.left() - margins.right();
+        return label_.textwidth > 0 ? std::min(whole, pixels(label_.textwidth) - margins.left()) : whole;
+    }
+
+    Label& label_;
+    WrappedText text_;
+    bool highlighted_ = false;
+    bool pressed_ = false;
+};
+
+class LabelView : public View {
+public:
+    LabelView(ScreenWindow& window, Label& label, LabelWidget* widget) : View(window, label, widget), widget_(*widget) {}
+    bool wraps() const override { return true; }
+    int heightfor(int width) override { return widget_.heightneeded(width); }
+    void highlight(bool on) override { widget_.highlight(on); }
+
+protected:
+    void bringkind() override { widget_.bring(); }
+
+private:
+    LabelWidget& widget_;
+};
+
+} // namespace
+
+View* makelabel(ScreenWindow& window, Label& label, QWidget* parent)
+{
+    return new LabelView(window, label, new LabelWidget(label, parent));
+}
+
+} // namespace brindor::toolkit::qt

@@ -1,0 +1,177 @@
+#include "base/numbers.h"
+#include "toolkit/qt/appearance.h"
+#include "toolkit/qt/qttext.h"
+#include "toolkit/qt/screenwindow.h"
+#include "toolkit/qt/view.h"
+#include "toolkit/qt/wrappedtext.h"
+#include "toolkit/user.h"
+
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace brindor::toolkit::qt {
+
+namespace {
+
+constexpr int leastrowheight = 32;
+constexpr int tickwidth = 20; // for the mark before a selected line of a list with many
+
+// Draws a line whole, wrapped in its row, in the list's own colours.
+class LineDelegate : public QStyledItemDelegate {
+public:
+    LineDelegate(const List& list, QListWidget* widget) : QStyledItemDelegate(widget), list_(list), widget_(*widget) {}
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const int width = widget_.viewport()->width();
+        text_.set(index.data().toString(), option.font, Align::left);
+        return {width, std::max(leastrowheight, text_.heightfor(width - left() - textmargin) + 6)};
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const bool selected = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        const bool hovered = (option.state & QStyle::State_MouseOver) != 0 && widget_.isEnabled();
+        const QPalette& palette = option.palette;
+        const QColor back = palette.color(selected ? QPalette::Highlight : QPalette::Base);
+        const QColor ink = palette.color(widget_.isEnabled() ? QPalette::Normal : QPalette::Disabled,
+                                         selected ? QPalette::HighlightedText : QPalette::Text);
+        painter->fillRect(option.rect, !hovered ? back : selected ? back.lighter(120) : back.darker(106));
+        if (selected && list_.multiselect) {
+            drawtick(*painter, option.rect, ink);
+        }
+        text_.set(index.data().toString(), option.font, Align::left);
+        text_.draw(*painter, option.rect.adjusted(left(), 3, -textmargin, -3), ink);
+        if (widget_.hasFocus() && index.row() == widget_.currentRow()) {
+            drawfocus(*painter, option.rect);
+        }
+    }
+
+    // Nothing changes by itself: what a click does is told to the record.
+    bool editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionViewItem&, const QModelIndex&) override
+    {
+        return false;
+    }
+
+private:
+    int left() const { return list_.multiselect ? textmargin + tickwidth : textmargin; }
+
+    static void drawtick(QPainter& painter, const QRect& row, const QColor& ink)
+    {
+        const QPointF middle(row.left() + textmargin + 6, row.center().y());
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(ink, 2));
+        painter.drawPolyline(QPolygonF({middle + QPointF(-5, 0), middle + QPointF(-1, 4), middle + QPointF(6, -5)}));
+        painter.restore();
+    }
+
+    const List& list_;
+    QListWidget& widget_;
+    mutable WrappedText text_;
+};
+
+// The lines are the record's, the current line is the widget's own: it stays at its row while the lines are rebuilt.
+class ListWidget : public QListWidget {
+public:
+    ListWidget(List& list, QWidget* parent) : QListWidget(parent), list_(list)
+    {
+        setSelectionMode(QAbstractItemView::NoSelection);
+        setItemDelegate(new LineDelegate(list, this));
+        setResizeMode(QListView::Adjust);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        setMouseTracking(true);
+        viewport()->setAttribute(Qt::WA_Hover);
+    }
+
+    void bring()
+    {
+        if (list_.lines.size() < lines_.size() || !std::equal(lines_.begin(), lines_.end(), list_.lines.begin())) {
+            keeprow();
+            clear();
+            lines_.clear();
+        }
+        while (lines_.size() < list_.lines.size()) {
+            lines_.push_back(list_.lines[lines_.size()]);
+            auto* item = new QListWidgetItem(shown(lines_.back()), this);
+            item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable |
+                           (list_.multiselect ? Qt::ItemIsUserCheckable : Qt::NoItemFlags));
+        }
+        if (currentRow() < 0 && keptrow_ >= 0 && keptrow_ < count()) {
+            setCurrentRow(keptrow_);
+        }
+        for (std::size_t i = 0; i < list_.selected.size(); ++i) {
+            QListWidgetItem* line = item(static_cast<int>(i));
+            const Qt::CheckState state = list_.selected[i] ? Qt::Checked : Qt::Unchecked;
+            if (line->data(Qt::CheckStateRole).toInt() != state) {
+                line->setData(Qt::CheckStateRole, state);
+            }
+        }
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        pressedrow_ = event->button() == Qt::LeftButton ? rowat(*event) : -1;
+        if (pressedrow_ >= 0) {
+            setCurrentRow(pressedrow_);
+        }
+    }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseMoveEvent(QMouseEvent* /*event*/) override {}
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        const int row = rowat(*event);
+        if (event->button() == Qt::LeftButton && row >= 0 && row == pressedrow_) {
+            userpick(list_, index16(row));
+        }
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (ScreenWindow::presses(*event)) {
+            userpick(list_, index16(currentRow()));
+        } else {
+            QListWidget::keyPressEvent(event);
+        }
+    }
+
+private:
+    void keeprow() { keptrow_ = currentRow() >= 0 ? currentRow() : keptrow_; }
+
+    int rowat(const QMouseEvent& event) const { return indexAt(event.position().toPoint()).row(); }
+
+    List& list_;
+    std::vector<std::string> lines_; // as brought
+    int keptrow_ = -1;
+    int pressedrow_ = -1;
+};
+
+class ListView : public View {
+public:
+    ListView(ScreenWindow& window, List& list, ListWidget* widget) : View(window, list, widget), widget_(*widget) {}
+
+protected:
+    void bringkind() override
+    {
+        widget_.bring();
+        widget_.viewport()->update();
+    }
+
+private:
+    ListWidget& widget_;
+};
+
+} // namespace
+
+View* makelist(ScreenWindow& window, List& list, QWidget* parent)
+{
+    return new ListView(window, list, new ListWidget(list, parent));
+}
+
+} // namespace brindor::toolkit::qt

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "toolkit/host.h"
+
+#include <QWidget>
+
+namespace brindor::toolkit::qt {
+
+// Shows a message in front of `window`, which may be none, and waits for the answer: true for OK and Yes. Escape and
+// the close control mean No.
+bool showmessage(const Message& message, QWidget* window);
+
+} // namespace brindor::toolkit::qt

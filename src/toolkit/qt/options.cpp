@@ -1,0 +1,150 @@
+#include "toolkit/qt/accesskey.h"
+#include "toolkit/qt/appearance.h"
+#include "toolkit/qt/qttext.h"
+#include "toolkit/qt/view.h"
+#include "toolkit/qt/wrappedtext.h"
+#include "toolkit/user.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRadioButton>
+
+namespace brindor::toolkit::qt {
+
+namespace {
+
+constexpr int indicatorsize = 15;
+constexpr int indicatorgap = 8;
+constexpr int topmargin = 3;
+
+// An option button whose text wraps. The whole of it can be clicked.
+class OptionWidget : public QRadioButton {
+public:
+    OptionWidget(OptionButton& option, QWidget* parent) : QRadioButton(parent), option_(option)
+    {
+        setAttribute(Qt::WA_Hover);
+    }
+
+    void bring()
+    {
+        const QString text = shown(option_.text);
+        bringcaption(*this, text, option_.accesskey);
+        text_.set(text, font(), Align::left, option_.accesskey);
+        if (isChecked() != option_.selected) {
+            setAutoExclusive(false); // else the selected one could not be cleared
+            setChecked(option_.selected);
+            setAutoExclusive(true);
+        }
+    }
+
+    int heightneeded(int width) { return text_.heightfor(width - textleft() - sidemargin()) + 2 * topmargin; }
+
+protected:
+    bool hitButton(const QPoint& at) const override { return rect().contains(at); }
+
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        const QColor back = qtcolour(option_.back);
+        const bool hovered = isEnabled() && underMouse();
+        if (option_.opaque) {
+            painter.fillRect(rect(), hovered && onsurface() ? back.darker(106) : back);
+        }
+        const QRect textrect = rect().adjusted(textleft(), topmargin, -sidemargin(), -topmargin);
+        const int textheight = std::min(textrect.height(), text_.heightfor(textrect.width()));
+        const int firstline = textrect.top() + (textrect.height() - textheight) / 2;
+        drawindicator(painter, {sidemargin(), firstline + (text_.lineheight() - indicatorsize) / 2, indicatorsize,
+                                indicatorsize},
+                      hovered);
+        text_.draw(painter, textrect, lettercolour(option_, isEnabled()));
+        if (hasFocus()) {
+            drawfocus(painter, rect());
+        }
+    }
+
+    // A press with any button answers where the screen listens to presses.
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (option_.press) {
+            userpress(option_);
+        } else {
+            QRadioButton::mousePressEvent(event);
+        }
+    }
+
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        if (!option_.press) {
+            QRadioButton::mouseMoveEvent(event);
+        }
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (!option_.press) {
+            QRadioButton::mouseReleaseEvent(event);
+        }
+    }
+
+    bool event(QEvent* event) override { return pressedbyaccesskey(*this, *event) || QRadioButton::event(event); }
+    void nextCheckState() override {} // the record says which one is selected
+
+private:
+    // On a surface of a colour of its own the button keeps off the edge.
+    bool onsurface() const
+    {
+        const Colour around = option_.container == nullptr ? option_.screen->back : option_.container->back;
+        return option_.opaque && option_.back != around;
+    }
+    int sidemargin() const { return onsurface() ? textmargin : 2; }
+    int textleft() const { return sidemargin() + indicatorsize + indicatorgap; }
+
+    void drawindicator(QPainter& painter, const QRect& where, bool hovered) const
+    {
+        const QColor ink = lettercolour(option_, isEnabled());
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(ink, hovered ? 2 : 1.4));
+        painter.setBrush(isDown() ? QColor(225, 225, 225) : QColor(Qt::white));
+        painter.drawEllipse(QRectF(where).adjusted(1, 1, -1, -1));
+        if (isChecked()) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(ink);
+            painter.drawEllipse(QRectF(where).adjusted(4.2, 4.2, -4.2, -4.2));
+        }
+        painter.restore();
+    }
+
+    OptionButton& option_;
+    WrappedText text_;
+};
+
+class OptionView : public View {
+public:
+    OptionView(ScreenWindow& window, OptionButton& option, OptionWidget* widget)
+        : View(window, option, widget), option_(option), widget_(*widget)
+    {
+        connect(widget, &QRadioButton::clicked, this, [this] {
+            widget_.setFocus(Qt::OtherFocusReason);
+            userclick(option_);
+        });
+    }
+    bool wraps() const override { return true; }
+    int heightfor(int width) override { return widget_.heightneeded(width); }
+
+protected:
+    void bringkind() override { widget_.bring(); }
+
+private:
+    OptionButton& option_;
+    OptionWidget& widget_;
+};
+
+} // namespace
+
+View* makeoptionbutton(ScreenWindow& window, OptionButton& option, QWidget* parent)
+{
+    return new OptionView(window, option, new OptionWidget(option, parent));
+}
+
+} // namespace brindor::toolkit::qt

@@ -1,0 +1,75 @@
+#include "toolkit/qt/pictures.h"
+
+#include "base/files.h"
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QImage>
+#include <QImageReader>
+
+namespace brindor::toolkit::qt {
+
+namespace {
+
+constexpr int allocationlimit = 128; // MiB, for one picture while it is decoded
+
+LoadedPicture failed(PictureError error)
+{
+    return {nullptr, error};
+}
+
+PictureError whyunread(const std::string& reason)
+{
+    if (reason == toolargereason) {
+        return picturetoolarge;
+    }
+    return reason == notregularreason ? picturenotafile : picturenotfound;
+}
+
+} // namespace
+
+LoadedPicture loadpicturefile(const std::string& file)
+{
+    const Result<std::string> content = readwhole(file, largestpicturefile);
+    if (!content) {
+        return failed(whyunread(content.reason));
+    }
+    QImageReader::setAllocationLimit(allocationlimit);
+    QByteArray bytes = QByteArray::fromRawData(content.value->data(), static_cast<qsizetype>(content.value->size()));
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    if (size.isValid() && qint64{size.width()} * size.height() > mostpixels) {
+        return failed(picturetoolarge);
+    }
+    if (std::max(size.width(), size.height()) > longestside) {
+        reader.setScaledSize(size.scaled(longestside, longestside, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    }
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        return failed(notapicture);
+    }
+    auto pixmap = std::make_shared<QPixmap>(QPixmap::fromImage(image));
+    const QSize original = size.isValid() ? size : image.size();
+    return {std::make_shared<PictureData>(PictureData{pixmap, original.width(), original.height()}), 0};
+}
+
+const QPixmap& StretchedPicture::at(const PictureRef& picture, QSize size, double ratio)
+{
+    if (picture_ == picture && size_ == size && ratio_ == ratio) {
+        return stretched_;
+    }
+    picture_ = picture;
+    size_ = size;
+    ratio_ = ratio;
+    stretched_ = {};
+    if (picture != nullptr && picture->pixels != nullptr && !size.isEmpty()) {
+        const auto& pixmap = *static_cast<const QPixmap*>(picture->pixels.get());
+        stretched_ = pixmap.scaled(size * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        stretched_.setDevicePixelRatio(ratio);
+    }
+    return stretched_;
+}
+
+} // namespace brindor::toolkit::qt

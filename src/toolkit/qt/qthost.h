@@ -1,0 +1,49 @@
+#pragma once
+
+#include "toolkit/host.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+namespace brindor::toolkit {
+
+namespace qt {
+class ScreenWindow;
+}
+
+// The host of real windows. Needs a QApplication as long as it lives, and is in force as long as it lives.
+class QtHost : public QObject, public Host {
+public:
+    QtHost();
+    ~QtHost() override;
+
+    void create(Screen& screen) override;
+    void show(Screen& screen) override;
+    void wait(Screen& screen) override;
+    void drop(Screen& screen) override;
+    void update(Control& control) override;
+    void update(Screen& screen) override;
+    void focus(Control& control) override;
+    bool message(const Message& message) override;
+    Size displaysize() override;
+    Size framesize() override;
+    LoadedPicture loadpicture(const std::string& file) override;
+    void startviewer(const std::string& file) override;
+    bool quitting() override { return quitting_; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override; // the desktop's wish that the program ends
+
+private:
+    qt::ScreenWindow* windowof(const Screen& screen) const; // none for a screen without a window
+    qt::ScreenWindow* top() const;                          // the topmost window that is seen, if any
+    void quit();
+
+    Host* before_;
+    std::vector<std::unique_ptr<qt::ScreenWindow>> windows_; // the last one is on top
+    bool quitting_ = false;
+};
+
+} // namespace brindor::toolkit

@@ -1,0 +1,110 @@
+#include "toolkit/qt/appearance.h"
+#include "toolkit/qt/qttext.h"
+#include "toolkit/qt/view.h"
+#include "toolkit/user.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QToolButton>
+
+#include <array>
+
+namespace brindor::toolkit::qt {
+
+namespace {
+
+// One of the two halves; steps again and again while it is held.
+class StepButton : public QToolButton {
+public:
+    StepButton(const Spin& spin, bool up, QWidget* parent) : QToolButton(parent), spin_(spin), up_(up)
+    {
+        setAutoRepeat(true);
+        setFocusPolicy(Qt::NoFocus);
+        setAttribute(Qt::WA_Hover);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        drawsurface(painter, rect(), qtcolour(spin_.back), {.hovered = isEnabled() && underMouse(), .pressed = isDown()});
+        const QPointF middle = QRectF(rect()).center();
+        const double half = std::min(width(), height()) / 4.0 + 1;
+        const double tip = up_ ? -half / 2 : half / 2;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(lettercolour(spin_, isEnabled()));
+        painter.drawPolygon(QPolygonF(
+            {middle + QPointF(-half, -tip), middle + QPointF(half, -tip), middle + QPointF(0, tip)}));
+    }
+
+private:
+    const Spin& spin_;
+    bool up_;
+};
+
+class SpinWidget : public QWidget {
+public:
+    SpinWidget(Spin& spin, QWidget* parent) : QWidget(parent), spin_(spin)
+    {
+        setFocusPolicy(Qt::ClickFocus);
+        const std::array<int, 2> steps = {1, -1};
+        for (std::size_t i = 0; i < halves_.size(); ++i) {
+            halves_[i] = new StepButton(spin, steps[i] > 0, this);
+            connect(halves_[i], &QToolButton::clicked, this, [this, half = halves_[i], step = steps[i]] {
+                if (!userstep(spin_, step)) {
+                    half->setDown(false); // else it would go on by itself behind a message
+                }
+            });
+        }
+    }
+
+    void bring()
+    {
+        const QString what = shown(spin_.says);
+        halves_[0]->setAccessibleName((what + QLatin1String(" up")).trimmed());
+        halves_[1]->setAccessibleName((what + QLatin1String(" down")).trimmed());
+        update();
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* /*event*/) override
+    {
+        const int upper = height() / 2;
+        halves_[0]->setGeometry(0, 0, width(), upper);
+        halves_[1]->setGeometry(0, upper, width(), height() - upper);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+            userstep(spin_, event->key() == Qt::Key_Up ? 1 : -1);
+        } else {
+            QWidget::keyPressEvent(event);
+        }
+    }
+
+private:
+    Spin& spin_;
+    std::array<StepButton*, 2> halves_{};
+};
+
+class SpinView : public View {
+public:
+    SpinView(ScreenWindow& window, Spin& spin, SpinWidget* widget) : View(window, spin, widget), widget_(*widget) {}
+
+protected:
+    void bringkind() override { widget_.bring(); }
+
+private:
+    SpinWidget& widget_;
+};
+
+} // namespace
+
+View* makespin(ScreenWindow& window, Spin& spin, QWidget* parent)
+{
+    return new SpinView(window, spin, new SpinWidget(spin, parent));
+}
+
+} // namespace brindor::toolkit::qt

@@ -1,0 +1,126 @@
+#include "toolkit/qt/view.h"
+
+#include "toolkit/qt/appearance.h"
+#include "toolkit/qt/qttext.h"
+#include "toolkit/user.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+
+namespace brindor::toolkit::qt {
+
+namespace {
+
+// What the control says to a person who does not see it. The text of a field is its value, not its name.
+const std::string& wordsof(const Control& control)
+{
+    static const std::string none;
+    const bool field = control.kind == Kind::textbox || control.kind == Kind::combo || control.kind == Kind::list;
+    return control.says.empty() && field ? none : control.says.empty() ? control.text : control.says;
+}
+
+} // namespace
+
+View::View(ScreenWindow& window, Control& control, QWidget* widget)
+    : QObject(widget), window_(window), control_(control), widget_(*widget)
+{
+    widget->setObjectName(QString::fromStdString(control.name));
+    widget->installEventFilter(this);
+}
+
+void View::bring()
+{
+    const QSignalBlocker blocked(&widget_);
+    bringlook();
+    bringwords();
+    bringkind();
+    // Qt would hand the focus of a widget that goes to the next one; here nobody gets what nobody asked for.
+    const bool going = !control_.visible || !control_.enabled;
+    if (QWidget* focused = widget_.window()->focusWidget();
+        going && focused != nullptr && (focused == &widget_ || widget_.isAncestorOf(focused))) {
+        focused->clearFocus();
+    }
+    widget_.setEnabled(control_.enabled);
+    widget_.setVisible(control_.visible);
+    widget_.update();
+    brought_ = true;
+}
+
+void View::bringlook()
+{
+    if (!brought_ || back_ != control_.back || fore_ != control_.fore) {
+        back_ = control_.back;
+        fore_ = control_.fore;
+        widget_.setPalette(palettefor(control_));
+    }
+    if (!brought_ || font_ != control_.font) {
+        font_ = control_.font;
+        widget_.setFont(qtfont(font_));
+    }
+}
+
+void View::bringwords()
+{
+    if (const std::string& words = wordsof(control_); !brought_ || words_ != words) {
+        words_ = words;
+        widget_.setAccessibleName(shown(words_));
+    }
+    if (tooltip_ != control_.tooltip) {
+        tooltip_ = control_.tooltip;
+        widget_.setToolTip(withoutmarkup(shown(tooltip_)));
+    }
+}
+
+bool View::wraps() const
+{
+    return false;
+}
+
+int View::heightfor(int /*width*/)
+{
+    return 0;
+}
+
+void View::highlight(bool /*on*/) {}
+
+bool View::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn) {
+        userfocus(control_);
+    } else if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+            userleave(control_);
+        }
+    }
+    return false;
+}
+
+View* makeview(ScreenWindow& window, Control& control, QWidget* parent)
+{
+    switch (control.kind) {
+    case Kind::label:
+        return makelabel(window, static_cast<Label&>(control), parent);
+    case Kind::button: {
+        auto& button = static_cast<Button&>(control);
+        return button.bar ? makebar(window, button, parent) : makebutton(window, button, parent);
+    }
+    case Kind::optionbutton:
+        return makeoptionbutton(window, static_cast<OptionButton&>(control), parent);
+    case Kind::textbox:
+        return maketextbox(window, static_cast<TextBox&>(control), parent);
+    case Kind::list:
+        return makelist(window, static_cast<List&>(control), parent);
+    case Kind::combo:
+        return makecombo(window, static_cast<Combo&>(control), parent);
+    case Kind::frame:
+        return makeframe(window, static_cast<Frame&>(control), parent);
+    case Kind::picture:
+        return makepicture(window, static_cast<Picture&>(control), parent);
+    case Kind::spin:
+        return makespin(window, static_cast<Spin&>(control), parent);
+    }
+    return nullptr;
+}
+
+} // namespace brindor::toolkit::qt
