@@ -39,7 +39,7 @@ Mchoice::Mchoice()
     back = pale;
 
     add(*this, frame1, "Frame1");
-    dress(frame1, " ", pale, buttonfont, {0, 0, 11920, 8950});
+    dress(frame1, " ", pale, buttonfont, {40, 25, 11920, 8950});
     add(frame1, label1, "Label1");
     dress(label1, "", green, {"Arial", 15.75, true}, {140, 240, 11520, 900});
     for (std::int16_t i = 0; i < itemsasked; ++i) {

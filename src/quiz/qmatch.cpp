@@ -45,11 +45,11 @@ constexpr std::array<FontStep, 4> fontsteps = {{{20, 14}, {25, 12}, {28, 10}, {3
 constexpr Place barplace(int bar)
 {
     const int step = 4 - bar;
-    return {4080.0 + step * 540, 240.0 + step * 540, 4800, 480};
+    return {4080.0 + step * 540, 240.0 + step * 600, 4800, 540};
 }
-constexpr double firstrow = 3000;
-constexpr double rowheight = 840;
-constexpr double rowstep = 900;
+constexpr double firstrow = 3360;
+constexpr double rowheight = 720;
+constexpr double rowstep = 840;
 constexpr double opentextwidth = 3840;
 
 } // namespace
@@ -65,7 +65,7 @@ Qmatch::Qmatch()
     back = blue;
 
     add(*this, frame1, "Frame1");
-    dress(frame1, "", blue, buttonfont, {0, 0, 11900, 8900});
+    dress(frame1, "", blue, buttonfont, {50, 50, 11900, 8900});
     add(frame1, label1, "Label1");
     dress(label1, "", blue, {"MS Sans Serif", 13.5, false}, {150, 240, 3600, 1560});
     // Tab goes through the bars from the top one down, and then through the descriptions.

@@ -44,19 +44,19 @@ Qsort::Qsort()
     back = pale;
 
     add(*this, frame1, "Frame1");
-    dress(frame1, "", pale, font, {0, 0, 11040, 6960});
+    dress(frame1, "", pale, font, {0, 0, 8160, 6480});
     add(frame1, label1, "Label1");
-    dress(label1, "", pale, font, {240, 240, 10560, 480});
+    dress(label1, "", pale, font, {240, 240, 7680, 480});
     add(frame1, list1, "List1");
-    dress(list1, "", {192, 192, 192}, font, {240, 840, 10560, 4080});
+    dress(list1, "", {192, 192, 192}, font, {240, 840, 7680, 4080});
     list1.says = "Items to sort";
     add(frame1, label2, "Label2");
-    dress(label2, "", pale, font, {240, 5040, 10560, 480});
+    dress(label2, "", pale, font, {240, 5040, 7680, 480});
     add(frame1, command2, "Command2");
-    dress(command2, "Help", cyan, font, {240, 6240, 1440, 480});
+    dress(command2, "Help", cyan, font, {240, 5760, 1440, 480});
     command2.accesskey = 'H';
     add(frame1, command1, "Command1");
-    dress(command1, "Done", cyan, font, {1800, 6240, 1440, 480});
+    dress(command1, "Done", cyan, font, {1800, 5760, 1440, 480});
     command1.accesskey = 'D';
 
     load = [this] { open(); };

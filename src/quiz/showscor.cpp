@@ -22,7 +22,7 @@ Showscor::Showscor()
     defaultbutton = &command1;
 
     add(*this, frame1, "Frame1");
-    dress(frame1, " ", orange, font, {0, 0, 11900, 8900});
+    dress(frame1, " ", orange, font, {50, 50, 11900, 8900});
     add(frame1, label1, "Label1");
     dress(label1, "Label1", orange, font, {150, 240, 11400, 480});
     add(frame1, text1, "Text1");
