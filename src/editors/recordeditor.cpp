@@ -26,7 +26,7 @@ void RecordEditor<Family>::begin(Differences differences)
 {
     differs_ = std::move(differences);
     defaultbutton = &cmdok;
-    load = [this] { open(); };
+    load = [this] { start(); };
 
     combo1.pick = [this](std::int16_t line) {
         Family::cursor() = line;
@@ -55,7 +55,7 @@ void RecordEditor<Family>::begin(Differences differences)
 }
 
 template <class Family>
-void RecordEditor<Family>::open()
+void RecordEditor<Family>::start()
 {
     fitcontents(*this, grid::margin);
     escapecloses = viewonly != 0; // while editing, Escape would drop what was typed

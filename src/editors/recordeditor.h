@@ -50,7 +50,7 @@ protected:
 
 private:
     static std::int16_t count();
-    void open();
+    void start();
     void filllist();
     void showentry(std::int16_t k);
     bool checkstore();

@@ -22,7 +22,7 @@ const Look look{{255, 255, 192}, {255, 224, 128}, {"MS Sans Serif", 11, false}};
 constexpr double editfontsize = 8;
 
 constexpr double listwidth = 4200;
-constexpr double listheight = 6360; // thirteen lines
+constexpr double listheight = 6300; // thirteen lines
 constexpr double sidewidth = 4560;
 constexpr double fieldwidth = 600;
 constexpr double spinwidth = 360;

@@ -12,8 +12,8 @@ namespace brindor::toolkit {
 namespace grid { // twips
 inline constexpr double margin = 240;
 inline constexpr double gap = 120;
-inline constexpr double row = 360; // a line of text, a field, an option
-inline constexpr double caption = 240;
+inline constexpr double row = 360;     // a line of text, a field, an option
+inline constexpr double caption = 360; // above what stands in a bordered frame
 inline constexpr double buttonheight = 480;
 inline constexpr double buttonwidth = 1440;
 } // namespace grid
@@ -40,7 +40,7 @@ template <class Holder>
 void putcaptioned(const Look& look, Holder& holder, const Caption& caption, Control& field, std::string name,
                   std::string text, const Place& place)
 {
-    put(look, holder, caption.label, caption.name, caption.text, {place.left, place.top, caption.width, place.height});
+    put(look, holder, caption.label, caption.name, caption.text, {place.left, place.top, caption.width, grid::row});
     put(look, holder, field, std::move(name), std::move(text),
         {place.left + caption.width, place.top, place.width - caption.width, place.height});
     field.says = caption.text;

@@ -7,6 +7,9 @@
 #include <QStyleFactory>
 #include <QToolTip>
 
+#include <algorithm>
+#include <cmath>
+
 namespace brindor::toolkit::qt {
 
 namespace {
@@ -32,9 +35,11 @@ QPalette plainpalette()
     return palette;
 }
 
-QColor between(const QColor& a, const QColor& b)
+// `part` of the way from a to b.
+QColor between(const QColor& a, const QColor& b, double part)
 {
-    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+    const auto mix = [part](int from, int to) { return static_cast<int>(std::lround(from + part * (to - from))); };
+    return QColor(mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue()));
 }
 
 } // namespace
@@ -88,7 +93,7 @@ QPalette palettefor(const Control& control)
 QColor lettercolour(const Control& control, bool usable)
 {
     const QColor fore = qtcolour(control.fore);
-    return usable ? fore : between(fore, qtcolour(control.back));
+    return usable ? fore : between(fore, qtcolour(control.back), 0.55);
 }
 
 QColor edgecolour(const QColor& surface)
@@ -96,19 +101,16 @@ QColor edgecolour(const QColor& surface)
     return surface.darker(165);
 }
 
+QColor hovercolour(const QColor& surface)
+{
+    constexpr int pale = 225;
+    return surface.lightness() >= pale ? surface.darker(107) : between(surface, Qt::white, 0.35);
+}
+
 void drawsurface(QPainter& painter, const QRect& rect, const QColor& colour, const SurfaceLook& look)
 {
     constexpr double radius = 3;
-    constexpr int lighter = 60; // percent of the way to white
-    QColor fill = colour;
-    if (look.pressed) {
-        fill = colour.darker(118);
-    } else if (look.hovered) {
-        fill = between(colour, between(colour, Qt::white));
-        if (fill.lightness() - colour.lightness() < lighter / 10) {
-            fill = colour.darker(106);
-        }
-    }
+    const QColor fill = look.pressed ? colour.darker(118) : look.hovered ? hovercolour(colour) : colour;
     const double width = look.pickedup ? 3 : look.strongedge ? 2 : 1;
     const QColor edge = look.pickedup ? QColor(Qt::black) : edgecolour(look.strongedge ? colour.darker(130) : colour);
     const double inset = width / 2;

@@ -27,6 +27,8 @@ QColor lettercolour(const Control& control, bool usable);
 
 QColor edgecolour(const QColor& surface); // a darker line round a surface of this colour
 
+QColor hovercolour(const QColor& surface); // the surface while the mouse is over it
+
 struct SurfaceLook {
     bool hovered = false;
     bool pressed = false;

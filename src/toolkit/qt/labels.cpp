@@ -54,11 +54,12 @@ protected:
     {
         QPainter painter(this);
         const bool aimedat = highlighted_ || (label_.drop && underMouse() && label_.screen->dragged != nullptr);
+        const QColor back = qtcolour(label_.back);
         if (label_.opaque) {
-            painter.fillRect(rect(), aimedat ? qtcolour(label_.back).lighter(125) : qtcolour(label_.back));
+            painter.fillRect(rect(), aimedat ? hovercolour(back) : back);
         }
         if (label_.outlined) {
-            painter.setPen(QPen(edgecolour(qtcolour(label_.back)), aimedat ? 3 : 1));
+            painter.setPen(QPen(edgecolour(back), aimedat ? 3 : 1));
             painter.drawRect(rect().adjusted(0, 0, -1, -1));
         }
         if (hasFocus()) {

@@ -39,7 +39,7 @@ public:
         const QColor back = palette.color(selected ? QPalette::Highlight : QPalette::Base);
         const QColor ink = palette.color(widget_.isEnabled() ? QPalette::Normal : QPalette::Disabled,
                                          selected ? QPalette::HighlightedText : QPalette::Text);
-        painter->fillRect(option.rect, !hovered ? back : selected ? back.lighter(120) : back.darker(106));
+        painter->fillRect(option.rect, hovered ? hovercolour(back) : back);
         if (selected && list_.multiselect) {
             drawtick(*painter, option.rect, ink);
         }

@@ -2,9 +2,17 @@
 
 #include "toolkit/qt/qttext.h"
 
+#include <QAbstractButton>
+#include <QGridLayout>
 #include <QMessageBox>
 
 namespace brindor::toolkit::qt {
+
+namespace {
+
+constexpr int leastwidth = 380; // pixels
+
+} // namespace
 
 bool showmessage(const Message& message, QWidget* window)
 {
@@ -22,6 +30,12 @@ bool showmessage(const Message& message, QWidget* window)
         box.setIcon(QMessageBox::Information);
         box.setStandardButtons(QMessageBox::Ok);
     }
+    for (QAbstractButton* button : box.buttons()) {
+        button->setIcon({});
+    }
+    // Wide enough for the title to be read.
+    auto* grid = static_cast<QGridLayout*>(box.layout());
+    grid->addItem(new QSpacerItem(leastwidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
     const int answer = box.exec();
     return answer == QMessageBox::Ok || answer == QMessageBox::Yes;
 }

@@ -48,7 +48,7 @@ protected:
         const QColor back = qtcolour(option_.back);
         const bool hovered = isEnabled() && underMouse();
         if (option_.opaque) {
-            painter.fillRect(rect(), hovered && onsurface() ? back.darker(106) : back);
+            painter.fillRect(rect(), hovered && onsurface() ? hovercolour(back) : back);
         }
         const QRect textrect = rect().adjusted(textleft(), topmargin, -sidemargin(), -topmargin);
         const int textheight = std::min(textrect.height(), text_.heightfor(textrect.width()));

@@ -65,6 +65,7 @@ void QtHost::wait(Screen& screen)
 void QtHost::drop(Screen& screen)
 {
     std::erase_if(windows_, [&screen](const auto& window) { return &window->screen() == &screen; });
+    activatetop();
 }
 
 void QtHost::update(Control& control)
@@ -90,7 +91,17 @@ void QtHost::focus(Control& control)
 
 bool QtHost::message(const Message& message)
 {
-    return !quitting_ && qt::showmessage(message, top());
+    const bool answer = !quitting_ && qt::showmessage(message, top());
+    activatetop();
+    return answer;
+}
+
+// Not every window system gives the keyboard back by itself.
+void QtHost::activatetop()
+{
+    if (qt::ScreenWindow* window = top()) {
+        window->activateWindow();
+    }
 }
 
 Size QtHost::displaysize()

@@ -39,6 +39,7 @@ protected:
 private:
     qt::ScreenWindow* windowof(const Screen& screen) const; // none for a screen without a window
     qt::ScreenWindow* top() const;                          // the topmost window that is seen, if any
+    void activatetop();
     void quit();
 
     Host* before_;

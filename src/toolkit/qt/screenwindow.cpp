@@ -14,6 +14,9 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTimer>
+
+#include <utility>
 
 namespace brindor::toolkit::qt {
 
@@ -192,6 +195,9 @@ bool ScreenWindow::event(QEvent* event)
         layoutcontrols();
         return true;
     }
+    if (event->type() == QEvent::WindowActivate) {
+        learnframe(*this);
+    }
     return QWidget::event(event);
 }
 
@@ -245,13 +251,19 @@ void ScreenWindow::changeEvent(QEvent* event)
 }
 
 // The window system tells a size again that has not changed, and our own sizes as well: neither is a person's doing.
+// Size and state come one after the other and in no fixed order, so a normal window as large as the display is looked
+// at again a little later: it may be on its way to the maximised state, or from it.
 void ScreenWindow::reportsize()
 {
     if (!presented_ || screen_.closed) {
         return;
     }
-    learnframe(*this);
     const std::int16_t state = stateof(windowState());
+    if (state == normal && !std::exchange(waited_, false) && fillsdisplay()) {
+        waited_ = true;
+        QTimer::singleShot(100, this, [this] { reportsize(); });
+        return;
+    }
     const Size now = state == minimised ? Size{width_, height_} : size_.outer(size());
     if (state == state_ && now.width == width_ && now.height == height_) {
         return;
@@ -260,6 +272,13 @@ void ScreenWindow::reportsize()
     width_ = now.width;
     height_ = now.height;
     userresize(screen_, width_, height_, state_);
+}
+
+bool ScreenWindow::fillsdisplay() const
+{
+    constexpr int titlebar = 64; // the most that one takes
+    const QSize display = QWidget::screen()->availableSize();
+    return width() >= display.width() && height() + titlebar >= display.height();
 }
 
 void ScreenWindow::requestlayout()

@@ -52,6 +52,7 @@ private:
     std::vector<Box> boxesin(const Frame* container) const;
     void put(const std::vector<Box>& boxes, QPoint origin);
     void reportsize();
+    bool fillsdisplay() const;
     void turnpage(int direction);
 
     Screen& screen_;
@@ -63,6 +64,7 @@ private:
     QPoint displaycorner_; // of the display that the windows are on; the record's place counts from it
     bool presented_ = false;
     bool layoutrequested_ = false;
+    bool waited_ = false; // the size in hand has been looked at before
 
     // As last brought into the window or reported from it.
     double left_ = 0;

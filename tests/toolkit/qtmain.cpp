@@ -1,0 +1,16 @@
+#include "toolkit/qt/appearance.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    testing::InitGoogleTest(&argc, argv);
+    const QApplication application(argc, argv);
+    brindor::toolkit::qt::dressapplication();
+    return RUN_ALL_TESTS();
+}

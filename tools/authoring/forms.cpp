@@ -1,0 +1,34 @@
+#include "authoring/forms.h"
+
+#include "base/text.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace brindor::authoring {
+
+namespace {
+
+bool earlier(const ItemForm& a, const ItemForm& b)
+{
+    return std::tie(a.date1, a.date2, a.name) < std::tie(b.date1, b.date2, b.name);
+}
+
+} // namespace
+
+std::string Source::field(std::string_view column) const
+{
+    const auto found = std::find(columns.begin(), columns.end(), column);
+    if (found == columns.end()) {
+        return std::string(column);
+    }
+    return "column " + numbertext(found - columns.begin() + 1) + " (" + std::string(column) + ')';
+}
+
+void sortforms(Forms& forms)
+{
+    std::stable_sort(forms.people.begin(), forms.people.end(), earlier);
+    std::stable_sort(forms.events.begin(), forms.events.end(), earlier);
+}
+
+} // namespace brindor::authoring

@@ -1,0 +1,20 @@
+#include "authoring/playable.h"
+
+#include "questions/catalogue.h"
+#include "questions/selection.h"
+#include "questions/types.h"
+
+namespace brindor::authoring {
+
+std::vector<UnaskedKind> unaskedkinds()
+{
+    std::vector<UnaskedKind> unasked;
+    for (std::int16_t type = 1; type <= lasttype; ++type) {
+        if (!canfill(type)) {
+            unasked.push_back({std::string(kindof(type).name), kindof(type).family == Family::people});
+        }
+    }
+    return unasked;
+}
+
+} // namespace brindor::authoring
