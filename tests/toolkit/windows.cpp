@@ -1,6 +1,10 @@
 #include "windows.h"
 
+#include "toolkit/operations.h"
+
 #include <QApplication>
+#include <QTest>
+#include <QTimer>
 
 #include <stdexcept>
 
@@ -23,6 +27,18 @@ QWidget& widgetof(const toolkit::Control& control)
         throw std::out_of_range("no widget " + control.name);
     }
     return *widget;
+}
+
+void showwhile(toolkit::Screen& screen, const std::function<void()>& act)
+{
+    QTimer::singleShot(0, [&] {
+        if (!QTest::qWaitForWindowActive(&windowof(screen))) {
+            throw std::runtime_error("the window " + screen.name + " does not appear");
+        }
+        act();
+        toolkit::closescreen(screen);
+    });
+    toolkit::showmodal(screen);
 }
 
 } // namespace brindor::tests

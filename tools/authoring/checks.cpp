@@ -87,7 +87,8 @@ void checknamesanddates(const std::vector<Form>& forms, Notes notes)
         if (form.name.empty()) {
             notes.error(form, "name", "the name is empty");
         } else if (const std::optional<Twins> twins = names.add(form.name, form)) {
-            notes.error(form, "name", inquotes(form.name) + " stands at " + atline(*before) + " too");
+            notes.error(twins->second, "name",
+                        inquotes(twins->second.name) + " stands at " + atline(twins->first) + " too");
         }
         if (form.date2 < form.date1) {
             notes.error(form, "date2",
@@ -198,7 +199,8 @@ void checkpeoplefairness(const Forms& forms, Notes notes)
         checkitem(form, longestpersonname, notes);
         if (!form.desc1.empty()) {
             if (const std::optional<Twins> twins = descriptions.add(form.desc1, form)) {
-                notes.warning(form, "desc1", before->name + ", " + atline(*before) + ", has the same text");
+                notes.warning(twins->second, "desc1",
+                              twins->first.name + ", " + atline(twins->first) + ", has the same text");
             }
         }
         usedfactions.use(form, {{"faction", form.faction}});
@@ -223,9 +225,9 @@ void checkeventfairness(const Forms& forms, Notes notes)
         }
         const std::string date = datetext(index16(static_cast<std::int64_t>(i)), "to");
         if (const std::optional<Twins> twins = dates.add(date, form)) {
-            notes.warning(form, "date1",
-                          "the date " + inquotes(date) + " is that of " + before->name + ", " + atline(*before) +
-                              ", too, so \"What happened in\" has two right answers");
+            notes.warning(twins->second, "date1",
+                          "the date " + inquotes(date) + " is that of " + twins->first.name + ", " +
+                              atline(twins->first) + ", too, so \"What happened in\" has two right answers");
         }
         usedgroups.use(form, {{"group", form.group}});
         usednations.use(form, {{"nation1", form.nation1}, {"nation2", form.nation2}});

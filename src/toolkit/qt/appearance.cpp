@@ -130,13 +130,17 @@ void drawsurface(QPainter& painter, const QRect& rect, const QColor& colour, con
     }
 }
 
-void drawfocus(QPainter& painter, const QRect& rect)
+void drawfocus(QPainter& painter, const QRect& rect, bool ondark)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(focuscolour, 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect).adjusted(1, 1, -1, -1), 3, 3);
+    if (ondark) {
+        painter.setPen(QPen(Qt::white, 1));
+        painter.drawRoundedRect(QRectF(rect).adjusted(2.5, 2.5, -2.5, -2.5), 3, 3);
+    }
     painter.restore();
 }
 

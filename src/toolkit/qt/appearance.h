@@ -40,7 +40,7 @@ struct SurfaceLook {
 // A flat surface with a thin darker edge.
 void drawsurface(QPainter& painter, const QRect& rect, const QColor& colour, const SurfaceLook& look);
 
-// The line round the control that has the keyboard.
-void drawfocus(QPainter& painter, const QRect& rect);
+// The line round the control that has the keyboard; seen on dark surfaces as well.
+void drawfocus(QPainter& painter, const QRect& rect, bool ondark = false);
 
 } // namespace brindor::toolkit::qt

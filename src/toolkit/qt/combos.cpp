@@ -15,6 +15,7 @@ namespace brindor::toolkit::qt {
 namespace {
 
 constexpr int rowsatonce = 15;
+constexpr int linemargin = 3; // pixels, as the fields beside it have them
 
 // The lines of the record, not copied: only how many of them are known here.
 class LinesModel : public QAbstractListModel {
@@ -63,6 +64,7 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
         setMaxVisibleItems(rowsatonce);
+        lineEdit()->setTextMargins(linemargin, 0, linemargin, 0);
         // Leaving the field is no pick, even if what stands in it is the text of a line.
         disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     }

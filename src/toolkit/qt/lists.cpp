@@ -46,7 +46,7 @@ public:
         text_.set(index.data().toString(), option.font, Align::left);
         text_.draw(*painter, option.rect.adjusted(left(), 3, -textmargin, -3), ink);
         if (widget_.hasFocus() && index.row() == widget_.currentRow()) {
-            drawfocus(*painter, option.rect);
+            drawfocus(*painter, option.rect, selected);
         }
     }
 

@@ -9,6 +9,9 @@
 #include <QPainter>
 #include <QRadioButton>
 
+#include <algorithm>
+#include <vector>
+
 namespace brindor::toolkit::qt {
 
 namespace {
@@ -31,9 +34,10 @@ public:
         bringcaption(*this, text, option_.accesskey);
         text_.set(text, font(), Align::left, option_.accesskey);
         if (isChecked() != option_.selected) {
-            setAutoExclusive(false); // else the selected one could not be cleared
+            setAutoExclusive(option_.selected); // else the selected one could not be cleared
             setChecked(option_.selected);
             setAutoExclusive(true);
+            settabstop();
         }
     }
 
@@ -96,6 +100,21 @@ private:
         const Colour around = option_.container == nullptr ? option_.screen->back : option_.container->back;
         return option_.opaque && option_.back != around;
     }
+    // Tab goes to the selected one of its container, or to each where none is selected.
+    void settabstop()
+    {
+        std::vector<OptionWidget*> group;
+        for (QObject* child : parentWidget()->children()) {
+            if (auto* option = dynamic_cast<OptionWidget*>(child)) {
+                group.push_back(option);
+            }
+        }
+        const bool any = std::any_of(group.begin(), group.end(), [](const auto* option) { return option->isChecked(); });
+        for (OptionWidget* option : group) {
+            option->setFocusPolicy(any && !option->isChecked() ? Qt::ClickFocus : Qt::StrongFocus);
+        }
+    }
+
     int sidemargin() const { return onsurface() ? textmargin : 2; }
     int textleft() const { return sidemargin() + indicatorsize + indicatorgap; }
 

@@ -154,8 +154,8 @@ void ScreenWindow::focus(Control& control)
     QWidget& widget = view->second->widget();
     if (!widget.hasFocus() && widget.focusPolicy() != Qt::NoFocus) {
         widget.setFocus(Qt::OtherFocusReason);
+        area_->ensureWidgetVisible(&widget, 0, 0);
     }
-    area_->ensureWidgetVisible(&widget, 0, 0);
 }
 
 // The option buttons are left out: a Space that nobody meant would answer with one.

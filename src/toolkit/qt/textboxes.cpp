@@ -1,5 +1,5 @@
+#include "toolkit/qt/appearance.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/screenwindow.h"
 #include "toolkit/qt/view.h"
 #include "toolkit/user.h"
 
@@ -13,11 +13,14 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
+constexpr int linemargin = 3; // pixels, beside those of the style
+
 class LineBoxView : public View {
 public:
     LineBoxView(ScreenWindow& window, TextBox& box, QLineEdit* widget)
         : View(window, box, widget), box_(box), widget_(*widget)
     {
+        widget->setTextMargins(linemargin, 0, linemargin, 0);
         widget->setMaxLength(std::numeric_limits<int>::max());
         connect(widget, &QLineEdit::textEdited, this, [this](const QString& text) {
             if (!usertype(box_, bytesof(text))) {
@@ -43,7 +46,11 @@ private:
 // Tab leaves the box, and Return is the window's where nothing can be typed.
 class ManyLines : public QPlainTextEdit {
 public:
-    explicit ManyLines(QWidget* parent) : QPlainTextEdit(parent) { setTabChangesFocus(true); }
+    explicit ManyLines(QWidget* parent) : QPlainTextEdit(parent)
+    {
+        setTabChangesFocus(true);
+        document()->setDocumentMargin(textmargin - 1); // and the frame's line
+    }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override
