@@ -38,8 +38,7 @@ void placeform(toolkit::Screen& screen, std::int16_t row, std::int16_t action)
 
 void centerform(toolkit::Screen& screen)
 {
-    const toolkit::Size display = toolkit::displaysize();
-    toolkit::moveto(screen, (display.width - screen.width) * 0.5, (display.height - screen.height) * 0.5);
+    toolkit::movetomiddle(screen);
 }
 
 void centerframe(toolkit::Frame& frame, const toolkit::Screen& screen)

@@ -174,6 +174,7 @@ struct Screen {
     std::vector<Control*> controls; // in the order of Tab
     Control* focus = nullptr;
     Button* dragged = nullptr; // the bar that is picked up
+    bool placed = false;       // it was moved to a place; one that was not opens in the middle of the display
     bool loaded = false;
     bool shown = false;
     bool closed = false;

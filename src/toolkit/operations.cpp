@@ -229,9 +229,16 @@ void resizeto(Screen& screen, double width, double height)
 
 void moveto(Screen& screen, double left, double top)
 {
+    screen.placed = true;
     screen.left = left;
     screen.top = top;
     changed(screen);
+}
+
+void movetomiddle(Screen& screen)
+{
+    const Size display = displaysize();
+    moveto(screen, (display.width - screen.width) * 0.5, (display.height - screen.height) * 0.5);
 }
 
 void fitcontents(Screen& screen, double margin)

@@ -52,6 +52,7 @@ void setbackdrop(Screen& screen, PictureRef picture);
 void setwindowstate(Screen& screen, std::int16_t state);    // raises `resize` on a shown screen where it changes
 void resizeto(Screen& screen, double width, double height); // outer size; the same
 void moveto(Screen& screen, double left, double top);
+void movetomiddle(Screen& screen); // of the display; a larger screen gets a negative left or top
 // Gives a screen, before it is shown, the outer size that its contents and a margin need.
 void fitcontents(Screen& screen, double margin);
 

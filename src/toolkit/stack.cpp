@@ -87,6 +87,9 @@ void showmodal(Screen& screen)
     open.push_back(&screen);
     load(screen);
     if (!screen.closed) {
+        if (!screen.placed) {
+            movetomiddle(screen);
+        }
         host().create(screen);
         windows.push_back(&screen);
         screen.shown = true;
