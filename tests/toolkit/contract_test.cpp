@@ -1,3 +1,4 @@
+#include "everything.h"
 #include "person.h"
 #include "toolkit/operations.h"
 
@@ -14,84 +15,6 @@ namespace brindor::tests {
 namespace {
 
 using namespace toolkit;
-
-// A screen with one or two of everything, which writes down what happens to it.
-struct Everything : Screen {
-    Everything(std::string screenname, std::string& log) : log_(log)
-    {
-        name = std::move(screenname);
-        width = 9000;
-        height = 9000;
-        double down = 0;
-        const auto put = [this, &down](Control& control, std::string controlname, double controlheight) {
-            add(*this, control, std::move(controlname));
-            control.place = {150, down, 6000, controlheight};
-            down += controlheight + 75;
-        };
-        put(go, "go", 480);
-        go.text = "Go";
-        go.accesskey = 'G';
-        go.click = [this] { note("go clicked"); };
-        put(line, "line", 360);
-        line.change = [this] { note("line is '" + line.text + "'"); };
-        line.leave = [this] { note("line left"); };
-        put(lines, "lines", 900);
-        lines.multiline = true;
-        lines.change = [this] { note("lines are '" + lines.text + "'"); };
-        lines.leave = [this] { note("lines left"); };
-        for (std::size_t i = 0; i < options.size(); ++i) {
-            put(options[i], indexed("option", static_cast<int>(i)), 360);
-            options[i].text = "Option";
-            options[i].click = [this, i] { note("option " + std::to_string(i) + " clicked"); };
-        }
-        put(list, "list", 1800);
-        for (const char* text : {"zero", "one", "two"}) {
-            additem(list, text);
-        }
-        list.pick = [this](std::int16_t at) { note("line " + std::to_string(at) + " picked"); };
-        put(combo, "combo", 360);
-        for (const char* text : {"Ada", "Bea", "Cid"}) {
-            additem(combo, text);
-        }
-        combo.pick = [this](std::int16_t at) { note("combo line " + std::to_string(at) + " picked"); };
-        for (std::size_t i = 0; i < bars.size(); ++i) {
-            put(bars[i], indexed("bar", static_cast<int>(i)), 480);
-            bars[i].bar = true;
-            bars[i].press = [this, i] { pickup(i, "pressed"); };
-            bars[i].click = [this, i] { pickup(i, "clicked"); };
-        }
-        put(target, "target", 480);
-        target.drop = [this] {
-            note("drop of " + (dragged == nullptr ? "nothing" : dragged->name));
-            enddrag(*dragged);
-        };
-        put(spin, "spin", 450);
-        spin.buddy = &line;
-        resize = [this] { note("resized to " + std::to_string(static_cast<int>(width))); };
-        unload = [this] { note("unloaded"); };
-    }
-
-    void note(const std::string& text) { log_ += name + ": " + text + '\n'; }
-
-    Button go;
-    TextBox line;
-    TextBox lines;
-    std::array<OptionButton, 2> options;
-    List list;
-    Combo combo;
-    std::array<Button, 2> bars;
-    Label target;
-    Spin spin;
-
-private:
-    void pickup(std::size_t i, const std::string& how)
-    {
-        note(bars[i].name + ' ' + how);
-        startdrag(bars[i]);
-    }
-
-    std::string& log_;
-};
 
 struct StageKind {
     const char* name;
@@ -128,20 +51,20 @@ INSTANTIATE_TEST_SUITE_P(Hosts, ContractTest,
 
 TEST_P(ContractTest, AFieldLosesTheFocusBeforeTheClick)
 {
-    EXPECT_EQ(play({[this](Person& person) { person.type(all.line, "ab"); },
-                    [this](Person& person) { person.click(all.go); },
-                    [this](Person& person) { person.click(all.line); },
-                    [this](Person& person) { person.pressaltkey(all.go); },
-                    [this](Person& person) { person.click(all.lines); },
-                    [this](Person& person) { person.clickline(all.list, 1); }}),
-              "all: line is 'a'\n"
-              "all: line is 'ab'\n"
-              "all: line left\n"
-              "all: go clicked\n"
-              "all: line left\n"
-              "all: go clicked\n"
-              "all: lines left\n"
-              "all: line 1 picked\n");
+    EXPECT_EQ(
+        play({[this](Person& person) { person.type(all.line, "ab"); }, [this](Person& person) { person.click(all.go); },
+              [this](Person& person) { person.click(all.line); },
+              [this](Person& person) { person.pressaltkey(all.go); },
+              [this](Person& person) { person.click(all.lines); },
+              [this](Person& person) { person.clickline(all.list, 1); }}),
+        "all: line is 'a'\n"
+        "all: line is 'ab'\n"
+        "all: line left\n"
+        "all: go clicked\n"
+        "all: line left\n"
+        "all: go clicked\n"
+        "all: lines left\n"
+        "all: line 1 picked\n");
 }
 
 TEST_P(ContractTest, ATextThatIsSetRaisesChangeWhereItChanges)
@@ -267,8 +190,7 @@ TEST_P(ContractTest, AComboKnowsAPickFromATyping)
 TEST_P(ContractTest, LeavingAComboPicksNothing)
 {
     EXPECT_EQ(play({[this](Person& person) { person.type(all.combo, "Cid"); },
-                    [this](Person& person) { person.enter(all); },
-                    [this](Person& person) { person.click(all.go); }}),
+                    [this](Person& person) { person.enter(all); }, [this](Person& person) { person.click(all.go); }}),
               "all: go clicked\n");
     EXPECT_EQ(all.combo.text, "Cid");
     EXPECT_EQ(all.combo.position, -1);
@@ -289,35 +211,34 @@ TEST_P(ContractTest, ABarIsDraggedOntoItsTarget)
 
 TEST_P(ContractTest, ABarAndItsTargetAreClickedOneAfterTheOther)
 {
-    EXPECT_EQ(play({[this](Person& person) { person.click(all.bars[0]); },
-                    [this](Person& person) { person.click(all.bars[1]); },
-                    [this](Person& person) { person.click(all.go); },
-                    [this](Person& person) { person.click(all.target); },
-                    [this](Person& person) { person.click(all.target); }}),
-              "all: bar(0) pressed\n"
-              "all: bar(0) clicked\n"
-              "all: bar(1) pressed\n"
-              "all: bar(1) clicked\n"
-              "all: go clicked\n"
-              "all: drop of bar(1)\n");
+    EXPECT_EQ(
+        play({[this](Person& person) { person.click(all.bars[0]); },
+              [this](Person& person) { person.click(all.bars[1]); }, [this](Person& person) { person.click(all.go); },
+              [this](Person& person) { person.click(all.target); },
+              [this](Person& person) { person.click(all.target); }}),
+        "all: bar(0) pressed\n"
+        "all: bar(0) clicked\n"
+        "all: bar(1) pressed\n"
+        "all: bar(1) clicked\n"
+        "all: go clicked\n"
+        "all: drop of bar(1)\n");
 }
 
 TEST_P(ContractTest, EscapePutsABarDown)
 {
     all.escapecloses = true;
-    EXPECT_EQ(play({[this](Person& person) { person.click(all.bars[0]); },
-                    [this](Person& person) { person.escape(all); },
-                    [this](Person& person) { person.click(all.target); },
-                    [this](Person& person) { person.press(all.bars[1]); },
-                    [this](Person& person) { person.escape(all); },
-                    [this](Person& person) { person.letgo(all.bars[1], all.target); },
-                    [this](Person& person) { person.pressspace(all.bars[0]); },
-                    [this](Person& person) { person.click(all.target); }}),
-              "all: bar(0) pressed\n"
-              "all: bar(0) clicked\n"
-              "all: bar(1) pressed\n"
-              "all: bar(0) clicked\n"
-              "all: drop of bar(0)\n");
+    EXPECT_EQ(
+        play({[this](Person& person) { person.click(all.bars[0]); }, [this](Person& person) { person.escape(all); },
+              [this](Person& person) { person.click(all.target); },
+              [this](Person& person) { person.press(all.bars[1]); }, [this](Person& person) { person.escape(all); },
+              [this](Person& person) { person.letgo(all.bars[1], all.target); },
+              [this](Person& person) { person.pressspace(all.bars[0]); },
+              [this](Person& person) { person.click(all.target); }}),
+        "all: bar(0) pressed\n"
+        "all: bar(0) clicked\n"
+        "all: bar(1) pressed\n"
+        "all: bar(0) clicked\n"
+        "all: drop of bar(0)\n");
 }
 
 TEST_P(ContractTest, ASpinStepsTheNumberOfItsField)
@@ -356,8 +277,7 @@ TEST_P(ContractTest, AFieldThatIsDisabledIsNotTold)
         all.note("go clicked");
         disable(all.lines);
     };
-    EXPECT_EQ(play({[this](Person& person) { person.type(all.line, "1"); },
-                    [this](Person&) { disable(all.line); },
+    EXPECT_EQ(play({[this](Person& person) { person.type(all.line, "1"); }, [this](Person&) { disable(all.line); },
                     [this](Person& person) { person.click(all.go); }}),
               "all: line is '1'\n"
               "all: go clicked\n");

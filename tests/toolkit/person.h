@@ -21,15 +21,15 @@ public:
 
     virtual void click(toolkit::Control& control) = 0;
     virtual void rightpress(toolkit::OptionButton& option) = 0; // and lets go
-    virtual void pressspace(toolkit::Control& control) = 0; // with the keyboard on it
+    virtual void pressspace(toolkit::Control& control) = 0;     // with the keyboard on it
     virtual void pressaltkey(toolkit::Button& button) = 0;
     virtual void type(toolkit::TextBox& box, const std::string& more) = 0; // at the end of its text
     virtual void type(toolkit::Combo& combo, const std::string& more) = 0;
     virtual void clickline(toolkit::List& list, std::int16_t line) = 0;
     virtual void doubleclickline(toolkit::List& list, std::int16_t line) = 0;
     virtual void pickline(toolkit::Combo& combo, std::int16_t line) = 0;
-    virtual void press(toolkit::Button& bar) = 0;                            // and holds it
-    virtual void letgo(toolkit::Button& bar, toolkit::Control& over) = 0;    // over the bar itself or another control
+    virtual void press(toolkit::Button& bar) = 0;                         // and holds it
+    virtual void letgo(toolkit::Button& bar, toolkit::Control& over) = 0; // over the bar itself or another control
     virtual void stepup(toolkit::Spin& spin) = 0;
     virtual void enter(toolkit::Screen& screen) = 0;
     virtual void escape(toolkit::Screen& screen) = 0;

@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -32,6 +33,7 @@ struct Shelf : Screen {
         name = "shelf";
         width = 9000;
         height = 9000;
+        resize = [] {};
         add(*this, list, "list");
         list.place = {240, 240, 4000, 3000};
         add(*this, combo, "combo");
@@ -119,7 +121,8 @@ TEST_F(WidgetTest, ALongListOfNamesFillsQuicklyAndIsSearchedByTyping)
         combo.setFocus();
         key(Qt::Key_F4);
         ASSERT_TRUE(combo.view()->isVisible());
-        EXPECT_LE(combo.view()->viewport()->height() / combo.view()->visualRect(combo.model()->index(0, 0)).height(), 15);
+        EXPECT_LE(combo.view()->viewport()->height() / combo.view()->visualRect(combo.model()->index(0, 0)).height(),
+                  15);
         for (const char letter : std::string("zen")) {
             QTest::keyClick(combo.view(), letter);
         }
@@ -130,6 +133,25 @@ TEST_F(WidgetTest, ALongListOfNamesFillsQuicklyAndIsSearchedByTyping)
         EXPECT_EQ(combo.currentText(), "");
     });
     EXPECT_EQ(shelf.picked, "Zenobia 200 ");
+}
+
+TEST_F(WidgetTest, ABarTellsThatItIsPickedUpAndLiesOnTop)
+{
+    std::array<Button, 2> bars;
+    for (std::size_t i = 0; i < bars.size(); ++i) {
+        add(shelf, bars[i], indexed("bar", static_cast<int>(i)));
+        bars[i].bar = true;
+        bars[i].place = {4500, 4500, 3000, 480};
+    }
+    showwhile(shelf, [this, &bars] {
+        const auto ontop = [this] { return windowof(shelf).childAt(310, 310)->objectName(); };
+        EXPECT_EQ(ontop(), "bar(1)");
+        startdrag(bars[0]);
+        EXPECT_EQ(widgetof(bars[0]).accessibleDescription(), "picked up");
+        EXPECT_EQ(ontop(), "bar(0)");
+        enddrag(bars[0]);
+        EXPECT_EQ(widgetof(bars[0]).accessibleDescription(), "");
+    });
 }
 
 TEST_F(WidgetTest, TheMachinesOwnViewerComesFirst)
@@ -198,10 +220,14 @@ TEST_F(PictureTest, EachFailureHasItsNumber)
         const char* file;
         int error;
     };
-    for (const Case& wanted : {Case{"missing.png", qt::picturenotfound}, {"folder", qt::picturenotafile},
-                               {"/dev/zero", qt::picturenotafile}, {"text.png", qt::notapicture},
-                               {"empty.png", qt::notapicture}, {"cut.png", qt::notapicture},
-                               {"manypixels.bmp", qt::picturetoolarge}, {"huge.png", qt::picturetoolarge},
+    for (const Case& wanted : {Case{"missing.png", qt::picturenotfound},
+                               {"folder", qt::picturenotafile},
+                               {"/dev/zero", qt::picturenotafile},
+                               {"text.png", qt::notapicture},
+                               {"empty.png", qt::notapicture},
+                               {"cut.png", qt::notapicture},
+                               {"manypixels.bmp", qt::picturetoolarge},
+                               {"huge.png", qt::picturetoolarge},
                                {"good.png", 0}}) {
         const LoadedPicture loaded = qt::loadpicturefile(wanted.file);
         EXPECT_EQ(loaded.error, wanted.error) << wanted.file;

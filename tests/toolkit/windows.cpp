@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <gtest/gtest.h>
+
 #include <stdexcept>
 
 namespace brindor::tests {
@@ -32,9 +34,7 @@ QWidget& widgetof(const toolkit::Control& control)
 void showwhile(toolkit::Screen& screen, const std::function<void()>& act)
 {
     QTimer::singleShot(0, [&] {
-        if (!QTest::qWaitForWindowActive(&windowof(screen))) {
-            throw std::runtime_error("the window " + screen.name + " does not appear");
-        }
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&windowof(screen)));
         act();
         toolkit::closescreen(screen);
     });

@@ -167,8 +167,8 @@ TEST_F(WindowTest, AWindowTooLargeForItsContentsCentresThem)
 RC_GTEST_PROP(WindowSizeTest, NothingDriftsOverRoundTrips, ())
 {
     QtHost host;
-    const double width = *rc::gen::inRange(3000, 12000);
-    const double height = *rc::gen::inRange(3000, 12000);
+    const double width = *rc::gen::inRange(3000, 10000);
+    const double height = *rc::gen::inRange(3000, 10000);
     double storedwidth = width;
     double storedheight = height;
     for (int trip = 0; trip < 3; ++trip) {

@@ -50,7 +50,8 @@ public:
 
     void doubleclickline(List& list, std::int16_t line) override
     {
-        QTest::mouseDClick(windowof(*list.screen).windowHandle(), Qt::LeftButton, {}, inwindow(list, middleof(list, line)));
+        QTest::mouseDClick(windowof(*list.screen).windowHandle(), Qt::LeftButton, {},
+                           inwindow(list, middleof(list, line)));
     }
 
     void pickline(Combo& combo, std::int16_t line) override
@@ -60,7 +61,8 @@ public:
         QTest::qWait(QApplication::doubleClickInterval() + 50); // a release so soon would count as the same click
         QAbstractItemView* view = widget.view();
         const QPoint middle = view->visualRect(widget.model()->index(line, 0)).center();
-        QTest::mouseClick(view->window()->windowHandle(), Qt::LeftButton, {}, view->viewport()->mapTo(view->window(), middle));
+        QTest::mouseClick(view->window()->windowHandle(), Qt::LeftButton, {},
+                          view->viewport()->mapTo(view->window(), middle));
     }
 
     void press(Button& bar) override
@@ -92,13 +94,17 @@ public:
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box != nullptr) {
             const auto wanted = yes ? QMessageBox::Yes : QMessageBox::No;
-            QAbstractButton* button = box->button(wanted) != nullptr ? box->button(wanted) : box->button(QMessageBox::Ok);
+            QAbstractButton* button =
+                box->button(wanted) != nullptr ? box->button(wanted) : box->button(QMessageBox::Ok);
             QTest::mouseClick(box->windowHandle(), Qt::LeftButton, {}, button->mapTo(box, button->rect().center()));
         }
     }
 
 private:
-    static QPoint inwindow(Control& control, QPoint at) { return widgetof(control).mapTo(&windowof(*control.screen), at); }
+    static QPoint inwindow(Control& control, QPoint at)
+    {
+        return widgetof(control).mapTo(&windowof(*control.screen), at);
+    }
 
     // Near the left edge, where no bar covers a description.
     static QPoint placetoclick(Control& control) { return {6, widgetof(control).height() / 2}; }
@@ -120,10 +126,7 @@ private:
         }
     }
 
-    static void key(Control& control, Qt::Key key)
-    {
-        QTest::keyClick(windowof(*control.screen).windowHandle(), key);
-    }
+    static void key(Control& control, Qt::Key key) { QTest::keyClick(windowof(*control.screen).windowHandle(), key); }
 
     // The shorter way, so that nothing else is passed.
     static void tabto(Control& control)
@@ -174,8 +177,8 @@ private:
             return;
         }
         const QWidget* front = QApplication::activeModalWidget();
-        const bool expected = front != nullptr && front->isVisible() &&
-                              front->objectName() == QString::fromStdString(story_.front().on);
+        const bool expected =
+            front != nullptr && front->isVisible() && front->objectName() == QString::fromStdString(story_.front().on);
         const bool busy = !acting_.empty() && acting_.back() == front; // the act before is not over
         const bool ready = expected && !busy;
         if (!ready) {

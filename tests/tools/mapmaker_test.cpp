@@ -12,6 +12,7 @@
 
 #include <QGuiApplication>
 #include <gtest/gtest.h>
+#include <memory>
 #include <set>
 
 namespace brindor::mapmaker {
@@ -28,9 +29,11 @@ protected:
         static int argc = 1;
         static char name[] = "mapmaker_test";
         static char* argv[] = {name, nullptr};
-        static const QGuiApplication application(argc, argv);
+        application_ = std::make_unique<QGuiApplication>(argc, argv);
         ASSERT_EQ(checkfonts().reason, "");
     }
+
+    static void TearDownTestSuite() { application_.reset(); }
 
     static QImage loaded(const std::string& file) { return QImage(QString::fromStdString(file)); }
 
@@ -39,7 +42,12 @@ protected:
         static const LocatorMaps maps(worldcoastlines().value.value_or(Coastlines()));
         return maps.draw(place, name);
     }
+
+private:
+    static std::unique_ptr<QGuiApplication> application_; // fonts need one
 };
+
+std::unique_ptr<QGuiApplication> Mapmaker::application_;
 
 TEST_F(Mapmaker, DrawsAMapForEachEventWithoutItsOwnPicture)
 {

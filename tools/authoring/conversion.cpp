@@ -50,7 +50,7 @@ Listing listed(const Names& names)
 
 void putitem(ItemRec& record, const ItemForm& form)
 {
-    static_cast<Dates&>(record) = form;
+    static_cast<Dates&>(record) = static_cast<const Dates&>(form);
     record.name = form.name;
     record.desc1 = form.desc1;
     record.desc2 = form.desc2;
@@ -112,7 +112,7 @@ template <class Form>
 Form itemform(const ItemRec& record, std::size_t index, const std::vector<std::int64_t>& lines)
 {
     Form form;
-    static_cast<Dates&>(form) = record;
+    static_cast<Dates&>(form) = static_cast<const Dates&>(record);
     form.line = index < lines.size() ? lines[index] : 0;
     form.name = toutf8(record.name);
     form.desc1 = toutf8(record.desc1);

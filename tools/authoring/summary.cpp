@@ -238,6 +238,7 @@ private:
 std::string summarytable(const std::vector<std::string>& folders, Findings& findings)
 {
     std::vector<Balance> balances;
+    balances.reserve(folders.size());
     for (const std::string& folder : folders) {
         balances.push_back(balanceof(folder, findings));
     }

@@ -17,7 +17,8 @@ constexpr int far = 10000;
 class Distances {
 public:
     Distances(const QImage& image, QRgb water)
-        : stride_(image.width() + 2), values_(static_cast<std::size_t>(stride_ * (image.height() + 2)), far)
+        : stride_(image.width() + 2),
+          values_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(image.height() + 2), far)
     {
         for (int y = 0; y < image.height(); ++y) {
             const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
@@ -40,7 +41,10 @@ public:
     int at(int x, int y) const { return values_[index(x, y)]; }
 
 private:
-    std::size_t index(int x, int y) const { return static_cast<std::size_t>((y + 1) * stride_ + x + 1); }
+    std::size_t index(int x, int y) const
+    {
+        return static_cast<std::size_t>(y + 1) * static_cast<std::size_t>(stride_) + static_cast<std::size_t>(x + 1);
+    }
 
     // From the neighbours that the way `step` through the picture has passed.
     void reach(int x, int y, int step)

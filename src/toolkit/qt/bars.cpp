@@ -109,7 +109,11 @@ protected:
     void bringkind() override
     {
         widget_.bring();
-        widget_.setAccessibleDescription(bar_.screen->dragged == &bar_ ? "picked up" : "");
+        const bool pickedup = bar_.screen->dragged == &bar_;
+        widget_.setAccessibleDescription(pickedup ? "picked up" : "");
+        if (pickedup) {
+            widget_.raise(); // it will lie on top of the bars that were dropped before
+        }
     }
 
 private:

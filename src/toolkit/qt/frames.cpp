@@ -54,7 +54,9 @@ private:
 
 class FrameView : public View {
 public:
-    FrameView(ScreenWindow& window, Frame& frame, FrameWidget* widget) : View(window, frame, widget), widget_(*widget) {}
+    FrameView(ScreenWindow& window, Frame& frame, FrameWidget* widget) : View(window, frame, widget), widget_(*widget)
+    {
+    }
 
 protected:
     void bringkind() override { widget_.bring(); }

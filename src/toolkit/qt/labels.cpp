@@ -66,7 +66,11 @@ protected:
             drawfocus(painter, rect());
         }
         const QMargins margins = inner();
-        const QRect within(margins.left(), margins.top(), textwidth(width()), height() - margins.top() - margins.bottom());
+        const QRect within(margins.left(), margins.top(), textwidth(width()),
+                           height() - margins.top() - margins.bottom());
+        if (!label_.opaque && label_.screen->backdrop != nullptr) {
+            drawhalo(painter, within);
+        }
         text_.draw(painter, within, lettercolour(label_, isEnabled()));
     }
 
@@ -102,6 +106,14 @@ private:
         return surface ? QMargins(textmargin, 3, textmargin, 3) : QMargins();
     }
 
+    // Letters can be read on whatever picture the player has chosen.
+    void drawhalo(QPainter& painter, const QRect& within)
+    {
+        for (const QPoint offset : {QPoint(-1, -1), QPoint(1, -1), QPoint(-1, 1), QPoint(1, 1)}) {
+            text_.draw(painter, within.translated(offset), qtcolour(label_.screen->back));
+        }
+    }
+
     int textwidth(int width) const
     {
         const QMargins margins = inner();
@@ -117,7 +129,9 @@ private:
 
 class LabelView : public View {
 public:
-    LabelView(ScreenWindow& window, Label& label, LabelWidget* widget) : View(window, label, widget), widget_(*widget) {}
+    LabelView(ScreenWindow& window, Label& label, LabelWidget* widget) : View(window, label, widget), widget_(*widget)
+    {
+    }
     bool wraps() const override { return true; }
     int heightfor(int width) override { return widget_.heightneeded(width); }
     void highlight(bool on) override { widget_.highlight(on); }

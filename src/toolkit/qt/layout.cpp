@@ -107,8 +107,8 @@ CanvasPlan plancanvas(const std::vector<Box>& boxes, QSize seen, int bar, bool c
     const QPoint hidden(std::max(0, -reach.left()), std::max(0, -reach.top())); // what lies off the upper left corner
     const QSize need(reach.left() + reach.width() + hidden.x(), bottomof(reach) + hidden.y());
 
-    const bool vertical = need.height() > seen.height() ||
-                          (need.height() > seen.height() - bar && need.width() > seen.width());
+    const bool vertical =
+        need.height() > seen.height() || (need.height() > seen.height() - bar && need.width() > seen.width());
     const bool horizontal = need.width() > seen.width() - (vertical ? bar : 0);
     const QSize inside(seen.width() - (vertical ? bar : 0), seen.height() - (horizontal ? bar : 0));
     CanvasPlan plan{inside, hidden};

@@ -15,7 +15,7 @@ namespace brindor::toolkit::qt {
 // One control. All places are in pixels and counted from the top left corner of its container.
 struct Box {
     const Control* control = nullptr;
-    QRect record;                            // where the record puts it
+    QRect record; // where the record puts it
     bool visible = true;
     bool container = false;                  // has children, if only none
     bool counts = true;                      // must be reached: all but containers that have no border

@@ -5,12 +5,20 @@
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 namespace brindor::toolkit::qt {
 
 namespace {
 
 constexpr int leastwidth = 380; // pixels
+
+// The box wraps between words only: one as long as a line may be broken anywhere.
+QString breakable(QString text)
+{
+    static const QRegularExpression longword("(\\S{60})(?=\\S)");
+    return text.replace(longword, QString("\\1") + QChar(0x200b));
+}
 
 } // namespace
 
@@ -20,7 +28,7 @@ bool showmessage(const Message& message, QWidget* window)
     box.setObjectName("message");
     box.setWindowTitle(shown(message.title));
     box.setTextFormat(Qt::PlainText);
-    box.setText(shown(message.text));
+    box.setText(breakable(shown(message.text)));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (message.question) {
         box.setIcon(QMessageBox::Question);

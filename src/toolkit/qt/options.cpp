@@ -57,9 +57,9 @@ protected:
         const QRect textrect = rect().adjusted(textleft(), topmargin, -sidemargin(), -topmargin);
         const int textheight = std::min(textrect.height(), text_.heightfor(textrect.width()));
         const int firstline = textrect.top() + (textrect.height() - textheight) / 2;
-        drawindicator(painter, {sidemargin(), firstline + (text_.lineheight() - indicatorsize) / 2, indicatorsize,
-                                indicatorsize},
-                      hovered);
+        drawindicator(
+            painter, {sidemargin(), firstline + (text_.lineheight() - indicatorsize) / 2, indicatorsize, indicatorsize},
+            hovered);
         text_.draw(painter, textrect, lettercolour(option_, isEnabled()));
         if (hasFocus()) {
             drawfocus(painter, rect());
@@ -109,7 +109,8 @@ private:
                 group.push_back(option);
             }
         }
-        const bool any = std::any_of(group.begin(), group.end(), [](const auto* option) { return option->isChecked(); });
+        const bool any =
+            std::any_of(group.begin(), group.end(), [](const auto* option) { return option->isChecked(); });
         for (OptionWidget* option : group) {
             option->setFocusPolicy(any && !option->isChecked() ? Qt::ClickFocus : Qt::StrongFocus);
         }

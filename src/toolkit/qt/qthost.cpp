@@ -47,7 +47,7 @@ void QtHost::create(Screen& screen)
 
 void QtHost::show(Screen& screen)
 {
-    if (qt::ScreenWindow* window = windowof(screen)) {
+    if (qt::ScreenWindow* window = windowof(screen); window != nullptr && !quitting_) {
         window->present();
     }
 }

@@ -26,12 +26,12 @@ public:
     ScreenWindow(Screen& screen, QWidget* below);
 
     Screen& screen() const { return screen_; }
-    void present();                  // shows the window, complete and in its place
-    void run();                      // returns when the screen has closed, or at endrun
+    void present(); // shows the window, complete and in its place
+    void run();     // returns when the screen has closed, or at endrun
     void endrun();
-    void bringscreen();              // the screen's own fields have changed
-    void bring(Control& control);    // a control's fields have changed
-    void focus(Control& control);    // the control has got the focus
+    void bringscreen();                // the screen's own fields have changed
+    void bring(Control& control);      // a control's fields have changed
+    void focus(Control& control);      // the control has got the focus
     View* viewat(QPoint global) const; // of the control that is seen at a place of the display; none elsewhere
 
     // Whether a key presses what has the focus: Space, Return or Enter, and not one that is held down.

@@ -27,15 +27,16 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        drawsurface(painter, rect(), qtcolour(spin_.back), {.hovered = isEnabled() && underMouse(), .pressed = isDown()});
+        drawsurface(painter, rect(), qtcolour(spin_.back),
+                    {.hovered = isEnabled() && underMouse(), .pressed = isDown()});
         const QPointF middle = QRectF(rect()).center();
         const double half = std::min(width(), height()) / 4.0 + 1;
         const double tip = up_ ? -half / 2 : half / 2;
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(lettercolour(spin_, isEnabled()));
-        painter.drawPolygon(QPolygonF(
-            {middle + QPointF(-half, -tip), middle + QPointF(half, -tip), middle + QPointF(0, tip)}));
+        painter.drawPolygon(
+            QPolygonF({middle + QPointF(-half, -tip), middle + QPointF(half, -tip), middle + QPointF(0, tip)}));
     }
 
 private:

@@ -39,7 +39,8 @@ QMargins framemargins()
 void learnframe(const QWidget& shownwindow)
 {
     const QWindow* handle = shownwindow.windowHandle();
-    const bool tellsall = handle != nullptr && shownwindow.isVisible() && shownwindow.windowState() == Qt::WindowNoState;
+    const bool tellsall =
+        handle != nullptr && shownwindow.isVisible() && shownwindow.windowState() == Qt::WindowNoState;
     if (learned.isNull() && tellsall) {
         learned = handle->frameMargins();
     }
