@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 
@@ -61,7 +62,7 @@ void view(const std::string& file)
     viewer.setWindowTitle(brindor::toolkit::qt::shown(file));
     viewer.setReadOnly(true);
     viewer.setFrameShape(QFrame::NoFrame);
-    QFont font = viewer.font();
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont); // the text has columns
     font.setPointSizeF(textpoints);
     viewer.setFont(font);
     viewer.setPlainText(contentof(file));

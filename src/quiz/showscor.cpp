@@ -24,7 +24,7 @@ Showscor::Showscor()
     add(*this, frame1, "Frame1");
     dress(frame1, " ", orange, font, {50, 50, 11900, 8900});
     add(frame1, label1, "Label1");
-    dress(label1, "Label1", orange, font, {150, 240, 11400, 480});
+    dress(label1, "Label1", orange, font, {150, 240, 5400, 480});
     add(frame1, text1, "Text1");
     dress(text1, "Text1", {255, 255, 0}, font, {150, 840, 11500, 6720});
     text1.multiline = true;
@@ -35,7 +35,7 @@ Showscor::Showscor()
     command1.tooltip = "Click here when  ready to proceed";
     command1.accesskey = 'o';
     add(frame1, label2, "Label2");
-    dress(label2, "Label2", orange, font, {1710, 7680, 8400, 480});
+    dress(label2, "Label2", orange, font, {1710, 7680, 4800, 480});
 
     load = [this] {
         placeform(*this, showscorrow, restoreplacement);
