@@ -40,5 +40,6 @@ build() {
         cat "$log" >&2
         fail "Configuring failed."
     fi
+    sed -n 's/^-- \(Without .*\)/\1/p' "$log" # what is left out of this build
     cmake --build --preset "$preset" --target "$@" || fail "Building failed."
 }

@@ -136,8 +136,8 @@ void MainScreen::arrange()
     const double textwidth = inwidth - 2 * margin;
     place(label1, {margin, inheight * 0.07, textwidth, 780});
     place(label2, {margin, inheight * 0.07 + 780, textwidth, 420});
-    place(label3, {margin, inheight * 0.62, textwidth, 420});
-    place(label4, {margin, inheight * 0.62 + 420, textwidth, 420});
+    place(label3, {margin, inheight * 0.8, textwidth, 360});
+    place(label4, {margin, inheight * 0.8 + 360, textwidth, 360});
 
     const std::array<Button*, 5> buttons = {&command1, &cmdsetup, &command3, &cmdcatalog, &cmdquit};
     const double count = static_cast<double>(buttons.size());
