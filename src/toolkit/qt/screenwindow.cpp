@@ -106,7 +106,8 @@ void ScreenWindow::bringscreen()
         endrun();
         return;
     }
-    setWindowTitle(shown(screen_.caption));
+    // Without any caption Qt would show the program's name.
+    setWindowTitle(screen_.caption.empty() ? QStringLiteral(" ") : shown(screen_.caption));
     QPalette palette(qtcolour(screen_.back), qtcolour(screen_.back));
     if (area_->palette().color(QPalette::Window) != palette.color(QPalette::Window)) {
         area_->setPalette(palette);
