@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
@@ -177,12 +178,19 @@ private:
             return;
         }
         const QWidget* front = QApplication::activeModalWidget();
-        const bool expected =
-            front != nullptr && front->isVisible() && front->objectName() == QString::fromStdString(story_.front().on);
+        // A click on a window that is not yet exposed would be lost.
+        const bool shown = front != nullptr && front->isVisible() && front->windowHandle()->isExposed();
+        // A message that has just been answered is gone from sight a little before it is over.
+        const std::string& on = story_.front().on;
+        const bool usable = on == "message" || (topscreen() != nullptr && topscreen()->name == on);
+        const bool expected = shown && usable && front->objectName() == QString::fromStdString(on);
         const bool busy = !acting_.empty() && acting_.back() == front; // the act before is not over
         const bool ready = expected && !busy;
         if (!ready) {
-            if (++waited_ > patience) {
+            if (!waited_.isValid()) {
+                waited_.start();
+            }
+            if (waited_.elapsed() > patience) {
                 ADD_FAILURE() << "no window for the act on " << story_.front().on;
                 QEvent quit(QEvent::Quit);
                 QCoreApplication::sendEvent(qApp, &quit);
@@ -191,7 +199,7 @@ private:
             arm();
             return;
         }
-        waited_ = 0;
+        waited_.invalidate();
         const Act act = std::move(story_.front());
         story_.pop_front();
         arm();
@@ -200,13 +208,13 @@ private:
         acting_.pop_back();
     }
 
-    static constexpr int patience = 3000;
+    static constexpr qint64 patience = 15000; // milliseconds
     QtHost host_;
     WindowPerson person_;
     QObject timers_;
     Story story_;
     std::vector<const QWidget*> acting_; // the windows in front when the acts in progress began
-    int waited_ = 0;
+    QElapsedTimer waited_;
 };
 
 } // namespace
