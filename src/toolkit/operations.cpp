@@ -171,11 +171,6 @@ void setfontsize(Control& control, double points)
     assign(control, control.font.points, points);
 }
 
-void setback(Control& control, Colour colour)
-{
-    assign(control, control.back, colour);
-}
-
 void setpicture(Picture& control, PictureRef picture)
 {
     assign(control, control.picture, std::move(picture));

@@ -38,7 +38,6 @@ void hide(Control& control);
 void enable(Control& control);
 void disable(Control& control); // also takes the focus off it, with no event
 void setfontsize(Control& control, double points);
-void setback(Control& control, Colour colour);
 void setpicture(Picture& control, PictureRef picture);
 void startdrag(Button& bar); // picks the bar up; a bar picked up before is put down
 void enddrag(Button& bar);   // nothing where this bar is not the one picked up
