@@ -2,7 +2,7 @@
 
 #include "editors/eentry.h"
 #include "editors/pentry.h"
-#include "frame/placement.h"
+#include "frame/services/placement.h"
 #include "timeline/reader.h"
 #include "toolkit/layout.h"
 #include "toolkit/operations.h"

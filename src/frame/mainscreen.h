@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/title.h"
+#include "frame/services/title.h"
 #include "toolkit/controls.h"
 
 #include <string>

@@ -2,9 +2,9 @@
 
 #include "base/random.h"
 #include "base/text.h"
-#include "frame/log.h"
-#include "frame/placement.h"
-#include "frame/score.h"
+#include "frame/services/log.h"
+#include "frame/services/placement.h"
+#include "frame/services/score.h"
 #include "questions/catalogue.h"
 #include "questions/selection.h"
 #include "questions/sortvalues.h"

@@ -1,8 +1,8 @@
 #include "quiz/showscor.h"
 
 #include "base/text.h"
-#include "frame/placement.h"
-#include "frame/score.h"
+#include "frame/services/placement.h"
+#include "frame/services/score.h"
 #include "quiz/look.h"
 #include "toolkit/operations.h"
 

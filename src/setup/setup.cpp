@@ -2,9 +2,9 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
-#include "frame/placement.h"
-#include "frame/settings.h"
-#include "frame/title.h"
+#include "frame/services/placement.h"
+#include "frame/services/settings.h"
+#include "frame/services/title.h"
 #include "questions/catalogue.h"
 #include "toolkit/layout.h"
 #include "toolkit/operations.h"

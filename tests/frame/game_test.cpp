@@ -1,8 +1,8 @@
 #include "frame/game.h"
 
 #include "frame/mainscreen.h"
-#include "frame/score.h"
-#include "frame/settings.h"
+#include "frame/services/score.h"
+#include "frame/services/settings.h"
 #include "quiz/mchoice.h"
 #include "support/quiztest.h"
 #include "timeline/reader.h"

@@ -1,9 +1,9 @@
 #include "quiz/qmatch.h"
 
 #include "base/random.h"
-#include "frame/log.h"
-#include "frame/score.h"
-#include "frame/settings.h"
+#include "frame/services/log.h"
+#include "frame/services/score.h"
+#include "frame/services/settings.h"
 #include "support/quiztest.h"
 
 #include <algorithm>

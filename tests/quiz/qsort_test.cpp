@@ -1,7 +1,7 @@
 #include "quiz/qsort.h"
 
-#include "frame/log.h"
-#include "frame/score.h"
+#include "frame/services/log.h"
+#include "frame/services/score.h"
 #include "support/quiztest.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "setup/setup.h"
 
-#include "frame/settings.h"
+#include "frame/services/settings.h"
 #include "questions/catalogue.h"
 #include "support/gametest.h"
 

@@ -1,9 +1,9 @@
 #include "support/gametest.h"
 
-#include "frame/failures.h"
-#include "frame/log.h"
-#include "frame/score.h"
-#include "frame/settings.h"
+#include "frame/services/failures.h"
+#include "frame/services/log.h"
+#include "frame/services/score.h"
+#include "frame/services/settings.h"
 #include "questions/catalogue.h"
 
 namespace brindor::tests {

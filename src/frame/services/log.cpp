@@ -1,8 +1,8 @@
-#include "frame/log.h"
+#include "frame/services/log.h"
 
 #include "base/files.h"
-#include "frame/failures.h"
-#include "frame/settings.h"
+#include "frame/services/failures.h"
+#include "frame/services/settings.h"
 #include "toolkit/operations.h"
 
 namespace brindor {

@@ -1,7 +1,7 @@
-#include "frame/settings.h"
+#include "frame/services/settings.h"
 
 #include "base/files.h"
-#include "frame/placement.h"
+#include "frame/services/placement.h"
 #include "questions/catalogue.h"
 #include "support/gametest.h"
 #include "timeline/timeline.h"

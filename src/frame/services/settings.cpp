@@ -1,10 +1,10 @@
-#include "frame/settings.h"
+#include "frame/services/settings.h"
 
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "frame/failures.h"
-#include "frame/placement.h"
+#include "frame/services/failures.h"
+#include "frame/services/placement.h"
 #include "questions/catalogue.h"
 #include "timeline/timeline.h"
 

@@ -1,8 +1,8 @@
-#include "frame/score.h"
+#include "frame/services/score.h"
 
 #include "base/files.h"
-#include "frame/log.h"
-#include "frame/settings.h"
+#include "frame/services/log.h"
+#include "frame/services/settings.h"
 #include "support/gametest.h"
 
 #include <filesystem>

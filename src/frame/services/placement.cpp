@@ -1,4 +1,4 @@
-#include "frame/placement.h"
+#include "frame/services/placement.h"
 
 #include "base/numbers.h"
 #include "toolkit/operations.h"

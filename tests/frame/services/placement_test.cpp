@@ -1,4 +1,4 @@
-#include "frame/placement.h"
+#include "frame/services/placement.h"
 
 #include "support/gametest.h"
 #include "toolkit/operations.h"

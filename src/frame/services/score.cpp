@@ -1,8 +1,8 @@
-#include "frame/score.h"
+#include "frame/services/score.h"
 
 #include "base/numbers.h"
 #include "base/text.h"
-#include "frame/log.h"
+#include "frame/services/log.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "frame/failures.h"
+#include "frame/services/failures.h"
 
 #include "toolkit/operations.h"
 
