@@ -1,7 +1,7 @@
 #include "questions/datetext.h"
 
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 
 namespace brindor {
 

@@ -3,7 +3,8 @@
 #include "base/numbers.h"
 #include "base/random.h"
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/marks.h"
+#include "questions/question.h"
 #include "questions/texts.h"
 #include "questions/types.h"
 #include "timeline/timeline.h"
@@ -21,8 +22,6 @@ namespace brindor {
 namespace {
 
 constexpr int triesperlevel = 1001;
-constexpr std::int16_t askedmark = 10; // for slot 0
-constexpr std::int16_t shownmark = 1;  // for the others
 
 bool playable(std::int16_t type)
 {

@@ -1,7 +1,7 @@
 #include "questions/texts.h"
 
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/sortvalues.h"
 #include "questions/types.h"
 #include "toolkit/operations.h"

@@ -1,9 +1,11 @@
 #include "questions/types.h"
 
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/datetext.h"
 #include "timeline/families.h"
+
+#include <iterator>
 
 namespace brindor {
 
@@ -94,10 +96,10 @@ using enum QuizScreen;
 
 // What is shown and what is compared differ on purpose: the word between two dates, desc1 alone for "Who was?",
 // the bare first date for factions and occupations with dates, the name left out of "What happened on?".
-constexpr std::array<QuestionKind, 14> kinds = {{
+constexpr QuestionKind kinds[] = {
     {"Name", any, none, "", {}, {}, {nameofeither}},
 
-    {"Dates for person", person, mchoice, "Which dates match ", {name<P>}, {datesto<P>}, {datesdash<P>}},
+    {"Dates for person", person, mchoice, "Which dates match ", {name<P>}, {datesto<P>}, {datesdash<P>}, true},
     {"Who was?", person, mchoice, "Who was ", {name<P>}, {desc1<P>, blank, desc2<P>}, {desc1<P>}},
     {"Faction, date", person, qmatch, "Match people with faction and date(s)", {}, //
      {faction, blank, datesdash<P>}, {faction, blank, date1<P>}},
@@ -105,9 +107,9 @@ constexpr std::array<QuestionKind, 14> kinds = {{
      {faction, blank, occupation}, {faction, blank, occupation}},
     {"Occupation, date", person, qmatch, "Match people with occupation and date(s)", {}, //
      {occupation, blank, datesdash<P>}, {occupation, blank, date1<P>}},
-    {"People by date", person, qsort, "", {}, {}, {name<P>}},
+    {"People by date", person, qsort, "", {}, {}, {name<P>}, true},
 
-    {"Dates for event", event, mchoice, "Which date(s) match ", {name<E>}, {datesto<E>}, {datesdash<E>}},
+    {"Dates for event", event, mchoice, "Which date(s) match ", {name<E>}, {datesto<E>}, {datesdash<E>}, true},
     {"What happened on?", event, mchoice, "What happened in ", {datesto<E>}, //
      {name<E>, dashes, desc1<E>, blank, desc2<E>}, {desc1<E>, blank, desc2<E>}},
     {"Nation, date", event, qmatch, "Match events with nation(s) and date(s)", {}, //
@@ -117,16 +119,17 @@ constexpr std::array<QuestionKind, 14> kinds = {{
     {"Group, date", event, qmatch, "Match events with group(s) and date(s)", {}, //
      {group, twoblanks, datesto<E>}, {group, twoblanks, datesdash<E>}},
     {"Which nations were involved?", event, mchoice, "Which nation(s) involved with ", {name<E>}, {nation}, {nation}},
-    {"Events by date", event, qsort, "", {}, {}, {name<E>}},
-}};
+    {"Events by date", event, qsort, "", {}, {}, {name<E>}, true},
+};
+static_assert(std::size(kinds) == lasttype + 1, "one row a type");
 
 } // namespace
 
 const QuestionKind& kindof(std::int16_t type)
 {
     static constexpr QuestionKind norow;
-    const bool inside = type >= 0 && static_cast<std::size_t>(type) < kinds.size();
-    return inside ? kinds[static_cast<std::size_t>(type)] : norow;
+    const bool inside = type >= 0 && type <= lasttype;
+    return inside ? kinds[type] : norow;
 }
 
 void addpieces(std::string& text, const TextPieces& pieces, std::int16_t item)

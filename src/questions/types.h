@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-// What each type of question is: one row a type. A new kind of question is a new row.
+// What each type of question is: one row a type. A new kind of question is a new row, and lasttype one higher.
 namespace brindor {
 
 enum class ItemKind { any, person, event };
@@ -25,9 +25,10 @@ struct QuestionKind {
     TextPieces asked{};        // what follows it of the item asked about
     TextPieces shown{};        // a choice or description as the player sees it
     TextPieces compared{};     // the text by which blank and equal items are refused
+    bool sorts = false;        // its items have sort values
 };
 
-// The row of a type; a row with nothing in it for a type outside 0 to 13.
+// The row of a type; a row with nothing in it for a type outside the table.
 const QuestionKind& kindof(std::int16_t type);
 
 // The pieces put together for an item.

@@ -1,6 +1,6 @@
 #include "authoring/playable.h"
 
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/types.h"
 
