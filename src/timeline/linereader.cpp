@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::size_t chunk = 65536;
 constexpr std::size_t longestline = 1048576; // no real line comes near; keeps a file without line ends out of memory
-constexpr std::string_view separators = ", \t";
 
 // Long tokens of a broken file are cut in messages.
 std::string quoted(std::string_view found)
@@ -92,10 +91,9 @@ Result<Done> LineReader::numbers(std::span<std::int16_t> numbers, std::string_vi
         if (!text) {
             return {std::nullopt, text.reason};
         }
-        std::size_t at = 0;
-        while (found < numbers.size() && (at = text.value->find_first_not_of(separators, at)) != std::string::npos) {
-            const std::size_t end = text.value->find_first_of(separators, at);
-            const std::string_view token = std::string_view(*text.value).substr(at, end - at);
+        std::string_view rest = *text.value;
+        for (std::string_view token = takevalue(rest); !token.empty() && found < numbers.size();
+             token = takevalue(rest)) {
             const std::optional<std::int64_t> number = wholenumber(token);
             if (!number) {
                 return {std::nullopt, failure(quoted(token) + " is not a whole number. Correct " +
@@ -107,10 +105,6 @@ Result<Done> LineReader::numbers(std::span<std::int16_t> numbers, std::string_vi
                                               std::string(expected) + " and choose the period again.")};
             }
             numbers[found++] = *fitting;
-            if (end == std::string::npos) {
-                break;
-            }
-            at = end;
         }
     }
     return {Done{}, {}};

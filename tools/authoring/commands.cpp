@@ -2,12 +2,13 @@
 
 #include "authoring/checks.h"
 #include "authoring/conversion.h"
+#include "authoring/csvtexts.h"
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
-#include "authoring/timelinetext.h"
 #include "base/files.h"
 #include "base/text.h"
 #include "timeline/reader.h"
+#include "timeline/writer.h"
 
 #include <array>
 #include <optional>

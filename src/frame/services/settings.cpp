@@ -26,7 +26,6 @@ namespace {
 
 constexpr const char* settingsfile = "bdq.INI";
 constexpr std::size_t largestfile = 65536;
-constexpr std::string_view separators = ", \t";
 
 using Rows = std::array<std::size_t, 5>;
 constexpr Rows firstrows = {0, 1, 3, 2, 4}; // the order of the file
@@ -80,12 +79,8 @@ struct ValueReader {
         std::size_t count = 0;
         while (count < Count && !rest.empty()) {
             std::string_view line = nextline();
-            for (std::size_t at = line.find_first_not_of(separators); at != std::string_view::npos && count < Count;
-                 at = line.find_first_not_of(separators)) {
-                line.remove_prefix(at);
-                const std::size_t end = std::min(line.find_first_of(separators), line.size());
-                found[count++] = wholenumber(line.substr(0, end));
-                line.remove_prefix(end);
+            for (std::string_view value = takevalue(line); !value.empty() && count < Count; value = takevalue(line)) {
+                found[count++] = wholenumber(value);
             }
         }
         return found;
