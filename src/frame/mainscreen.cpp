@@ -1,6 +1,7 @@
 #include "frame/mainscreen.h"
 
 #include "base/files.h"
+#include "base/program.h"
 #include "base/random.h"
 #include "editors/bdqedit.h"
 #include "frame/game.h"

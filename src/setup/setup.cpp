@@ -1,10 +1,10 @@
 #include "setup/setup.h"
 
 #include "base/numbers.h"
+#include "base/program.h"
 #include "base/text.h"
 #include "frame/services/placement.h"
 #include "frame/services/settings.h"
-#include "frame/services/title.h"
 #include "questions/question.h"
 #include "toolkit/layout.h"
 #include "toolkit/operations.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/program.h"
 #include "toolkit/controls.h"
 #include "toolkit/host.h"
 
@@ -9,9 +10,6 @@
 
 // What the program does with screens and controls. All events that this raises, and their order, are settled here.
 namespace brindor::toolkit {
-
-// The title of every message that names none of its own.
-inline constexpr std::string_view applicationtitle = "Brindor Trivia Game";
 
 // ---- putting a screen together; before its load
 // A control joins its screen. Tab goes through the controls in the order of these calls.

@@ -63,7 +63,7 @@ public:
         }
         const std::optional<std::int16_t> fitting = toint16(*number);
         if (!fitting) {
-            refuse(column, inquotes(text) + " is outside -32768 to 32767");
+            refuse(column, inquotes(text) + ' ' + std::string(outside16));
         }
         return fitting.value_or(std::int16_t{0});
     }
@@ -191,9 +191,9 @@ std::vector<Form> readrecords(const Source& source, std::size_t fewest, Findings
             forms.push_back(std::move(form));
         }
     }
-    if (forms.size() > static_cast<std::size_t>(highest16)) {
-        findings.push_back({Severity::error, source.file, forms[static_cast<std::size_t>(highest16)].line,
-                            "a timeline holds at most 32767 of these records"});
+    if (forms.size() > static_cast<std::size_t>(mostrecords)) {
+        findings.push_back({Severity::error, source.file, forms[static_cast<std::size_t>(mostrecords)].line,
+                            "a timeline holds at most " + numbertext(mostrecords) + " of these records"});
     }
     return forms;
 }

@@ -16,11 +16,11 @@
 
 namespace brindor {
 
-std::string mindif = "1";
-std::int16_t maxdif = 1;
-std::int16_t nquestion = 5;
-std::int16_t logstatus = 1;
-std::string titlepicture = "TITLE.BMP";
+std::string mindif;
+std::int16_t maxdif = 0;
+std::int16_t nquestion = 0;
+std::int16_t logstatus = 0;
+std::string titlepicture;
 
 namespace {
 
@@ -38,9 +38,9 @@ constexpr std::int16_t maximisedstate = toolkit::maximised;
 
 void setdefaults()
 {
-    mindif = "1";
-    maxdif = 1;
-    nquestion = 5;
+    mindif = numbertext(lowestdifficulty);
+    maxdif = lowestdifficulty;
+    nquestion = usualquestions;
     logstatus = 1;
     titlepicture = "TITLE.BMP";
     placements.fill({});
@@ -141,10 +141,10 @@ void readsettings()
     }
     ValueReader reader{withoutmark(*content.value)};
     const auto game = reader.values<4>();
-    std::int16_t lowest = 1;
-    take(lowest, game[0], 1, highestdifficulty);
+    std::int16_t lowest = lowestdifficulty;
+    take(lowest, game[0], lowestdifficulty, highestdifficulty);
     mindif = numbertext(lowest);
-    take(maxdif, game[1], 1, highestdifficulty);
+    take(maxdif, game[1], lowestdifficulty, highestdifficulty);
     take(nquestion, game[2], 1, mostquestions);
     take(logstatus, game[3], 0, 2);
     const auto period = reader.values<4>(); // three reserved numbers behind it
