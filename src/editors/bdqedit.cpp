@@ -4,7 +4,7 @@
 #include "editors/pentry.h"
 #include "frame/services/placement.h"
 #include "timeline/reader.h"
-#include "toolkit/layout.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 #include <utility>
@@ -15,7 +15,7 @@ using namespace toolkit;
 
 Bdqedit::Bdqedit(std::function<void()> showstatistics)
 {
-    const Look look{{224, 240, 192}, {184, 224, 128}, {"MS Sans Serif", 11, false}};
+    const Look look{{224, 240, 192}, {184, 224, 128}, {Face::plain, 11, false}};
     constexpr double framewidth = 2640;
     constexpr double wide = 2160;
 

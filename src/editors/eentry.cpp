@@ -12,7 +12,7 @@ using namespace toolkit;
 
 EEntry::EEntry()
 {
-    const Look look{{208, 228, 255}, {160, 196, 255}, {"MS Sans Serif", 11, false}};
+    const Look look{{208, 228, 255}, {160, 196, 255}, {Face::plain, 11, false}};
     constexpr double inwidth = besidedates - grid::margin + picturewidth;
 
     name = "eEntry";

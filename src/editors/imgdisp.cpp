@@ -1,6 +1,7 @@
 #include "editors/imgdisp.h"
 
 #include "base/text.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 namespace brindor {
@@ -19,17 +20,16 @@ constexpr double above = 100;
 
 ImgDisp::ImgDisp()
 {
-    const Colour surface{224, 224, 224};
+    const Look look{{224, 224, 224}, {}, {}};
 
     name = "ImgDisp";
-    back = surface;
+    back = look.surface;
     width = 12000;
     height = 9000;
     escapecloses = true;
     scrolls = false;
 
-    add(*this, image1, "Image1");
-    image1.back = surface;
+    put(look, *this, image1, "Image1", "", {});
     image1.says = "Picture";
 
     load = [this] { open(); };

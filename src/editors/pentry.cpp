@@ -9,7 +9,7 @@ using namespace toolkit;
 
 PEntry::PEntry()
 {
-    const Look look{{255, 228, 204}, {255, 196, 144}, {"MS Sans Serif", 11, false}};
+    const Look look{{255, 228, 204}, {255, 196, 144}, {Face::plain, 11, false}};
     constexpr double listwidth = dateswidth;
     constexpr double inwidth = besidedates - grid::margin + listwidth;
     constexpr Place line{besidedates, datestop, listwidth, grid::row};

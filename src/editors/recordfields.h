@@ -3,7 +3,7 @@
 #include "editors/daterules.h"
 #include "timeline/timeline.h"
 #include "toolkit/controls.h"
-#include "toolkit/layout.h"
+#include "toolkit/dress.h"
 
 #include <array>
 #include <cstdint>

@@ -14,6 +14,7 @@
 #include "setup/setup.h"
 #include "timeline/reader.h"
 #include "timeline/timeline.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 #include <array>
@@ -35,52 +36,48 @@ constexpr double buttonwidth = 2160;
 
 constexpr const char* catalogtext = "bdqord.txt";
 
-void dresslabel(Label& label, std::string text, double points, bool bold)
-{
-    label.text = std::move(text);
-    label.font = {"Arial", points, bold};
-    label.fore = {64, 32, 16};
-    label.opaque = false;
-    label.align = Align::centre;
-}
-
-void dressbutton(Button& button, std::string text, std::string tip, char accesskey)
-{
-    button.text = std::move(text);
-    button.tooltip = std::move(tip);
-    button.accesskey = accesskey;
-    button.font = {"MS Sans Serif", 12, true};
-    button.back = {245, 222, 160};
-}
-
 } // namespace
 
 MainScreen::MainScreen(std::string programfolder) : programfolder_(std::move(programfolder))
 {
     name = "main";
-    back = {236, 220, 176};
     width = screenwidth;
     height = screenheight;
     defaultbutton = &command1;
 
-    add(*this, label1, "Label1");
-    dresslabel(label1, "", 26, true);
-    add(*this, label2, "Label2");
-    dresslabel(label2, "", 12, true);
-    add(*this, label3, "Label3");
-    dresslabel(label3, "Written by the project's contributors", 12, true);
-    add(*this, label4, "Label4");
-    dresslabel(label4, "Copyright (C) the project's contributors", 12, true);
-    add(*this, command1, "Command1");
-    dressbutton(command1, "Play", "Play the game", 'P');
-    add(*this, cmdsetup, "cmdsetup");
-    dressbutton(cmdsetup, "Setup", "Conditions for the game", 'S');
-    add(*this, command3, "Command3");
-    dressbutton(command3, "About", "", 'A');
-    add(*this, cmdcatalog, "cmdCatalog");
-    dressbutton(cmdcatalog, "", "", 'C');
-    add(*this, cmdquit, "cmdquit");
-    dressbutton(cmdquit, "Quit", "", 'Q');
+    const Look look{{236, 220, 176}, {245, 222, 160}, {Face::plain, 12, true}};
+    back = look.surface;
+    const struct {
+        Label& label;
+        const char* labelname;
+        const char* text;
+        double points;
+    } lines[] = {{label1, "Label1", "", 26},
+                 {label2, "Label2", "", 12},
+                 {label3, "Label3", "Written by the project's contributors", 12},
+                 {label4, "Label4", "Copyright (C) the project's contributors", 12}};
+    for (const auto& line : lines) {
+        put({back, {}, {Face::heading, line.points, true}, {}, {64, 32, 16}}, *this, line.label, line.labelname,
+            line.text, {});
+        line.label.opaque = false;
+        line.label.align = Align::centre;
+    }
+    const struct {
+        Button& button;
+        const char* controlname;
+        const char* text;
+        const char* tip;
+        char accesskey;
+    } buttons[] = {{command1, "Command1", "Play", "Play the game", 'P'},
+                   {cmdsetup, "cmdsetup", "Setup", "Conditions for the game", 'S'},
+                   {command3, "Command3", "About", "", 'A'},
+                   {cmdcatalog, "cmdCatalog", "", "", 'C'},
+                   {cmdquit, "cmdquit", "Quit", "", 'Q'}};
+    for (const auto& b : buttons) {
+        put(look, *this, b.button, b.controlname, b.text, {});
+        b.button.tooltip = b.tip;
+        b.button.accesskey = b.accesskey;
+    }
 
     load = [this] { start(); };
     resize = [this] { arrange(); };

@@ -9,9 +9,9 @@
 #include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/texts.h"
-#include "quiz/look.h"
 #include "quiz/result.h"
 #include "quiz/showscor.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 #include <string>
@@ -29,30 +29,24 @@ constexpr std::int16_t worth = 5;
 
 Mchoice::Mchoice()
 {
-    const Colour pale{192, 255, 192};
     const Colour green{128, 255, 128};
-    const Colour yellow{255, 255, 0};
-    const Font buttonfont{"MS Sans Serif", 12, true};
+    const Look look{{192, 255, 192}, {255, 255, 0}, {Face::plain, 12, true}};
 
     name = "mchoice";
     caption = "Quorvel Mind Tourney";
-    back = pale;
+    back = look.surface;
 
-    add(*this, frame1, "Frame1");
-    dress(frame1, " ", pale, buttonfont, {40, 25, 11920, 8950});
-    add(frame1, label1, "Label1");
-    dress(label1, "", green, {"Arial", 15.75, true}, {140, 240, 11520, 900});
+    put(look, *this, frame1, "Frame1", " ", {40, 25, 11920, 8950});
+    put({green, {}, {Face::heading, 15.75, true}}, frame1, label1, "Label1", "", {140, 240, 11520, 900});
     for (std::int16_t i = 0; i < itemsasked; ++i) {
         OptionButton& option = choice[static_cast<std::size_t>(i)];
-        add(frame1, option, indexed("choice", i));
-        dress(option, "", green, {"MS Serif", 12, true}, {140, 1260.0 + i * 1260, 11520, 1140});
+        put({green, {}, {Face::reading, 12, true}}, frame1, option, indexed("choice", i), "",
+            {140, 1260.0 + i * 1260, 11520, 1140});
         option.press = [this, i] { answer(i); };
     }
-    add(frame1, cmdhelp, "cmdhelp");
-    dress(cmdhelp, "help", yellow, buttonfont, {140, 7680, 1440, 480});
+    put(look, frame1, cmdhelp, "cmdhelp", "help", {140, 7680, grid::buttonwidth, grid::buttonheight});
     cmdhelp.accesskey = 'h';
-    add(frame1, command1, "Command1");
-    dress(command1, "skip", yellow, buttonfont, {1700, 7680, 1440, 480});
+    put(look, frame1, command1, "Command1", "skip", {1700, 7680, grid::buttonwidth, grid::buttonheight});
     command1.accesskey = 's';
 
     load = [this] { open(); };

@@ -10,9 +10,9 @@
 #include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/texts.h"
-#include "quiz/look.h"
 #include "quiz/result.h"
 #include "quiz/showscor.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 #include <string>
@@ -57,47 +57,40 @@ constexpr double opentextwidth = 3840;
 Qmatch::Qmatch()
 {
     const Colour blue{128, 128, 255};
-    const Colour pink{255, 128, 255};
-    const Font buttonfont{"MS Sans Serif", 12, false};
+    const Look look{blue, {255, 255, 128}, {Face::plain, 12, false}};
 
     name = "qmatch";
     caption = "Match 'em";
     back = blue;
 
-    add(*this, frame1, "Frame1");
-    dress(frame1, "", blue, buttonfont, {50, 50, 11900, 8900});
-    add(frame1, label1, "Label1");
-    dress(label1, "", blue, {"MS Sans Serif", 13.5, false}, {150, 240, 3600, 1560});
+    put(look, *this, frame1, "Frame1", "", {50, 50, 11900, 8900});
+    put({blue, {}, {Face::plain, 13.5, false}}, frame1, label1, "Label1", "", {150, 240, 3600, 1560});
     // Tab goes through the bars from the top one down, and then through the descriptions.
     for (int b = 4; b >= 0; --b) {
         Button& bar = btn1[static_cast<std::size_t>(b)];
-        add(frame1, bar, indexed("Btn1", b));
-        dress(bar, "", barcolours[static_cast<std::size_t>(b)], {"MS Sans Serif", shortnamesize, true}, barplace(b));
+        put({{}, barcolours[static_cast<std::size_t>(b)], {Face::plain, shortnamesize, true}}, frame1, bar,
+            indexed("Btn1", b), "", barplace(b));
         bar.bar = true;
         bar.tooltip = "Click and drag this item to its description, below";
         bar.press = [this, b] { pickup(b); };
         bar.click = [this, b] { pickup(b); };
     }
     for (std::size_t p = 0; p < label2.size(); ++p) {
-        add(frame1, label2[p], indexed("Label2", static_cast<std::int64_t>(p)));
-        dress(label2[p], "", pink, {"MS Sans Serif", 12, true},
-              {150, firstrow + static_cast<double>(p) * rowstep, 11500, rowheight});
+        put({{255, 128, 255}, {}, {Face::plain, 12, true}}, frame1, label2[p],
+            indexed("Label2", static_cast<std::int64_t>(p)), "",
+            {150, firstrow + static_cast<double>(p) * rowstep, 11500, rowheight});
         label2[p].outlined = true;
         label2[p].textwidth = opentextwidth;
         label2[p].drop = [this, p] { drop(p); };
     }
     label2[0].tooltip = "Drag one of the colored bars to this description";
 
-    const Colour button{255, 255, 128};
-    add(frame1, cmdhelp, "cmdhelp");
-    dress(cmdhelp, "Help", button, buttonfont, {150, 7680, 1440, 480});
+    put(look, frame1, cmdhelp, "cmdhelp", "Help", {150, 7680, grid::buttonwidth, grid::buttonheight});
     cmdhelp.accesskey = 'H';
-    add(frame1, command2, "Command2");
-    dress(command2, "Skip", button, buttonfont, {1710, 7680, 1440, 480});
+    put(look, frame1, command2, "Command2", "Skip", {1710, 7680, grid::buttonwidth, grid::buttonheight});
     command2.tooltip = "Click here when you are ready to proceed";
     command2.accesskey = 'S';
-    add(frame1, command1, "Command1");
-    dress(command1, "Done", button, buttonfont, {3270, 7680, 1440, 480});
+    put(look, frame1, command1, "Command1", "Done", {3270, 7680, grid::buttonwidth, grid::buttonheight});
     command1.tooltip = command2.tooltip;
     command1.accesskey = 'D';
 

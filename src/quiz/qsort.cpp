@@ -10,9 +10,9 @@
 #include "questions/selection.h"
 #include "questions/sortvalues.h"
 #include "questions/texts.h"
-#include "quiz/look.h"
 #include "quiz/result.h"
 #include "quiz/showscor.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 #include <string>
@@ -36,28 +36,20 @@ std::int16_t& slot(std::int16_t line)
 
 Qsort::Qsort()
 {
-    const Colour pale{128, 255, 255};
-    const Colour cyan{0, 255, 255};
-    const Font font{"MS Sans Serif", 13.5, false};
+    const Look look{{128, 255, 255}, {0, 255, 255}, {Face::plain, 13.5, false}, {192, 192, 192}};
 
     name = "qsort";
     caption = "Quorvel Mind Tourney";
-    back = pale;
+    back = look.surface;
 
-    add(*this, frame1, "Frame1");
-    dress(frame1, "", pale, font, {0, 0, 8160, 6480});
-    add(frame1, label1, "Label1");
-    dress(label1, "", pale, font, {240, 240, 7680, 480});
-    add(frame1, list1, "List1");
-    dress(list1, "", {192, 192, 192}, font, {240, 840, 7680, 4080});
+    put(look, *this, frame1, "Frame1", "", {0, 0, 8160, 6480});
+    put(look, frame1, label1, "Label1", "", {240, 240, 7680, 480});
+    put(look, frame1, list1, "List1", "", {240, 840, 7680, 4080});
     list1.says = "Items to sort";
-    add(frame1, label2, "Label2");
-    dress(label2, "", pale, font, {240, 5040, 7680, 480});
-    add(frame1, command2, "Command2");
-    dress(command2, "Help", cyan, font, {240, 5760, 1440, 480});
+    put(look, frame1, label2, "Label2", "", {240, 5040, 7680, 480});
+    put(look, frame1, command2, "Command2", "Help", {240, 5760, grid::buttonwidth, grid::buttonheight});
     command2.accesskey = 'H';
-    add(frame1, command1, "Command1");
-    dress(command1, "Done", cyan, font, {1800, 5760, 1440, 480});
+    put(look, frame1, command1, "Command1", "Done", {1800, 5760, grid::buttonwidth, grid::buttonheight});
     command1.accesskey = 'D';
 
     load = [this] { open(); };

@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "frame/services/placement.h"
 #include "frame/services/score.h"
-#include "quiz/look.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 namespace brindor {
@@ -12,30 +12,24 @@ using namespace toolkit;
 
 Showscor::Showscor()
 {
-    const Colour orange{255, 128, 0};
-    const Font font{"MS Sans Serif", 13.5, false};
+    const Look look{{255, 128, 0}, {0, 255, 0}, {Face::plain, 13.5, false}, {255, 255, 0}};
 
     name = "showscor";
     caption = "Quorvel Mind Tourney Scores";
-    back = orange;
+    back = look.surface;
     escapecloses = true;
     defaultbutton = &command1;
 
-    add(*this, frame1, "Frame1");
-    dress(frame1, " ", orange, font, {50, 50, 11900, 8900});
-    add(frame1, label1, "Label1");
-    dress(label1, "Label1", orange, font, {150, 240, 5400, 480});
-    add(frame1, text1, "Text1");
-    dress(text1, "Text1", {255, 255, 0}, font, {150, 840, 11500, 6720});
+    put(look, *this, frame1, "Frame1", " ", {50, 50, 11900, 8900});
+    put(look, frame1, label1, "Label1", "Label1", {150, 240, 5400, 480});
+    put(look, frame1, text1, "Text1", "Text1", {150, 840, 11500, 6720});
     text1.multiline = true;
     text1.readonly = true;
     text1.says = "Result";
-    add(frame1, command1, "Command1");
-    dress(command1, "ok", {0, 255, 0}, font, {150, 7680, 1440, 480});
+    put(look, frame1, command1, "Command1", "ok", {150, 7680, grid::buttonwidth, grid::buttonheight});
     command1.tooltip = "Click here when  ready to proceed";
     command1.accesskey = 'o';
-    add(frame1, label2, "Label2");
-    dress(label2, "Label2", orange, font, {1710, 7680, 4800, 480});
+    put(look, frame1, label2, "Label2", "Label2", {1710, 7680, 4800, 480});
 
     load = [this] {
         placeform(*this, showscorrow, restoreplacement);

@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "timeline/timeline.h"
-#include "toolkit/layout.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 #include <string>
@@ -13,7 +13,7 @@ using namespace toolkit;
 
 CurStats::CurStats()
 {
-    const Look look{{192, 255, 224}, {128, 240, 184}, {"MS Sans Serif", 11, false}};
+    const Look look{{192, 255, 224}, {128, 240, 184}, {Face::plain, 11, false}};
     constexpr double linewidth = 5400;
 
     name = "curStats";

@@ -6,7 +6,7 @@
 #include "frame/services/placement.h"
 #include "frame/services/settings.h"
 #include "questions/question.h"
-#include "toolkit/layout.h"
+#include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
 #include <string>
@@ -18,7 +18,7 @@ using namespace toolkit;
 
 namespace {
 
-const Look look{{255, 255, 192}, {255, 224, 128}, {"MS Sans Serif", 11, false}};
+const Look look{{255, 255, 192}, {255, 224, 128}, {Face::plain, 11, false}};
 constexpr double editfontsize = 8;
 
 constexpr double listwidth = 4200;

@@ -22,8 +22,11 @@ struct Colour {
     friend bool operator==(const Colour&, const Colour&) = default;
 };
 
+// A typeface by what it is for; toolkit/faces.h names its families.
+enum class Face : std::uint8_t { plain, heading, reading };
+
 struct Font {
-    std::string family = "MS Sans Serif";
+    Face face = Face::plain;
     double points = 12;
     bool bold = false;
 

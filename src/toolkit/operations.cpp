@@ -153,11 +153,6 @@ void hide(Control& control)
     assign(control, control.visible, false);
 }
 
-void enable(Control& control)
-{
-    assign(control, control.enabled, true);
-}
-
 void disable(Control& control)
 {
     if (control.screen->focus == &control) {

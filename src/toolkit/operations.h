@@ -33,8 +33,7 @@ void movetop(Control& control, double top);
 void resizeto(Control& control, double width, double height);
 void show(Control& control);
 void hide(Control& control);
-void enable(Control& control);
-void disable(Control& control); // also takes the focus off it, with no event
+void disable(Control& control); // for good; also takes the focus off it, with no event
 void setfontsize(Control& control, double points);
 void setpicture(Picture& control, PictureRef picture);
 void startdrag(Button& bar); // picks the bar up; a bar picked up before is put down

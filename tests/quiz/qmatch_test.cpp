@@ -205,7 +205,7 @@ TEST_F(QmatchTest, FontSteps)
             events[static_cast<std::size_t>(i)].name += "\xC3\xA9"; // 21 characters, 41 bytes
         }
     }
-    play([](Qmatch& s) { EXPECT_EQ(s.btn1[2].font, (Font{"MS Sans Serif", 14, true})); });
+    play([](Qmatch& s) { EXPECT_EQ(s.btn1[2].font, (Font{Face::plain, 14, true})); });
 }
 
 // Twenty exchanges of neighbours: position 4 stays, and so few steps leave more descriptions near their start than

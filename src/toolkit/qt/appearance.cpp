@@ -1,5 +1,7 @@
 #include "toolkit/qt/appearance.h"
 
+#include "toolkit/faces.h"
+
 #include <QApplication>
 #include <QGuiApplication>
 #include <QScreen>
@@ -50,10 +52,10 @@ void dressapplication()
     const QPalette palette = plainpalette();
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
-    QFont::insertSubstitution("MS Sans Serif", "Liberation Sans");
-    QFont::insertSubstitution("Arial", "Liberation Sans");
-    QFont::insertSubstitution("MS Serif", "Liberation Serif");
-    const QFont plain = qtfont({"MS Sans Serif", 11, false});
+    for (const FaceFamilies& family : families) {
+        QFont::insertSubstitution(family.wanted, family.free);
+    }
+    const QFont plain = qtfont({Face::plain, 11, false});
     QApplication::setFont(plain);
     QToolTip::setFont(plain);
 }
@@ -69,7 +71,7 @@ QFont qtfont(const Font& font)
     constexpr double logicaldpi = 96;
     const QScreen* screen = QGuiApplication::primaryScreen();
     const double dpi = screen == nullptr ? logicaldpi : screen->logicalDotsPerInchY();
-    QFont result(QString::fromStdString(font.family));
+    QFont result(QLatin1String(familiesof(font.face).wanted));
     result.setPointSizeF(std::max(1.0, font.points) * logicaldpi / dpi);
     result.setBold(font.bold);
     return result;

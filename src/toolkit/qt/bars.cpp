@@ -1,6 +1,7 @@
+#include "toolkit/qt/controlview.h"
 #include "toolkit/qt/flatbutton.h"
+#include "toolkit/qt/keys.h"
 #include "toolkit/qt/screenwindow.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/user.h"
 
 #include <QKeyEvent>
@@ -14,9 +15,15 @@ namespace {
 // The mouse grab that a press gives carries the whole drag: the bar sees the moves and the release wherever they are.
 class BarWidget : public FlatButton {
 public:
-    BarWidget(ScreenWindow& window, Button& bar, QWidget* parent) : FlatButton(bar, parent), window_(window)
+    BarWidget(Button& bar, QWidget* parent) : FlatButton(bar, parent) { setCursor(Qt::OpenHandCursor); }
+
+    void refresh()
     {
-        setCursor(Qt::OpenHandCursor);
+        FlatButton::refresh();
+        setAccessibleDescription(ispickedup() ? "picked up" : "");
+        if (ispickedup()) {
+            raise(); // it will lie on top of the bars that were dropped before
+        }
     }
 
 protected:
@@ -31,10 +38,7 @@ protected:
         pickedup_ = ispickedup();
     }
 
-    void mouseMoveEvent(QMouseEvent* event) override
-    {
-        aimat(held_ && ispickedup() ? window_.viewat(event->globalPosition().toPoint()) : nullptr);
-    }
+    void mouseMoveEvent(QMouseEvent* event) override { aimat(held_ && ispickedup() ? viewunder(*event) : nullptr); }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
@@ -47,7 +51,7 @@ protected:
         if (pickedup_ && !ispickedup()) {
             return; // put down by Escape on the way
         }
-        View* target = window_.viewat(event->globalPosition().toPoint());
+        ControlView* target = viewunder(*event);
         if (target != nullptr && &target->widget() == this) {
             userclick(record());
         } else if (!isdroptarget(target) || !userdrop(static_cast<Label&>(target->control()))) {
@@ -57,7 +61,7 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override
     {
-        if (ScreenWindow::presses(*event)) {
+        if (presses(*event)) {
             userclick(record());
         } else {
             FlatButton::keyPressEvent(event);
@@ -69,15 +73,20 @@ protected:
 private:
     bool ispickedup() const { return record().screen->dragged == &record(); }
 
-    static bool isdroptarget(const View* view)
+    ControlView* viewunder(const QMouseEvent& event) const
+    {
+        return static_cast<ScreenWindow*>(window())->viewat(event.globalPosition().toPoint());
+    }
+
+    static bool isdroptarget(const ControlView* view)
     {
         return view != nullptr && view->control().kind == Kind::label &&
                static_cast<const Label&>(view->control()).drop && view->widget().isEnabled();
     }
 
-    void aimat(View* view)
+    void aimat(ControlView* view)
     {
-        View* target = isdroptarget(view) ? view : nullptr;
+        ControlView* target = isdroptarget(view) ? view : nullptr;
         if (aimedat_ == target) {
             return;
         }
@@ -90,42 +99,16 @@ private:
         }
     }
 
-    ScreenWindow& window_;
-    QPointer<View> aimedat_;
+    QPointer<ControlView> aimedat_;
     bool held_ = false;
     bool pickedup_ = false; // the press picked the bar up
 };
 
-class BarView : public View {
-public:
-    BarView(ScreenWindow& window, Button& bar, BarWidget* widget)
-        : View(window, bar, widget), bar_(bar), widget_(*widget)
-    {
-    }
-    bool wraps() const override { return true; }
-    int heightfor(int width) override { return widget_.heightneeded(width); }
-
-protected:
-    void bringkind() override
-    {
-        widget_.bring();
-        const bool pickedup = bar_.screen->dragged == &bar_;
-        widget_.setAccessibleDescription(pickedup ? "picked up" : "");
-        if (pickedup) {
-            widget_.raise(); // it will lie on top of the bars that were dropped before
-        }
-    }
-
-private:
-    Button& bar_;
-    BarWidget& widget_;
-};
-
 } // namespace
 
-View* makebar(ScreenWindow& window, Button& bar, QWidget* parent)
+ControlView* makebar(Button& bar, QWidget* parent)
 {
-    return new BarView(window, bar, new BarWidget(window, bar, parent));
+    return new ViewOf<BarWidget>(bar, parent);
 }
 
 } // namespace brindor::toolkit::qt

@@ -1,14 +1,16 @@
 #include "base/numbers.h"
+#include "toolkit/qt/controlview.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/user.h"
 
 #include <QAbstractItemView>
-#include <QAbstractListModel>
 #include <QComboBox>
 #include <QCompleter>
+#include <QFocusEvent>
 #include <QLineEdit>
-#include <QWheelEvent>
+#include <QStringListModel>
+
+#include <algorithm>
 
 namespace brindor::toolkit::qt {
 
@@ -17,47 +19,9 @@ namespace {
 constexpr int rowsatonce = 15;
 constexpr int linemargin = 3; // pixels, as the fields beside it have them
 
-// The lines of the record, not copied: only how many of them are known here.
-class LinesModel : public QAbstractListModel {
-public:
-    LinesModel(const Combo& combo, QObject* parent) : QAbstractListModel(parent), combo_(combo) {}
-
-    // False where the record has what was known already.
-    bool bring()
-    {
-        const int lines = static_cast<int>(combo_.lines.size());
-        if (lines == count_) {
-            return false;
-        }
-        if (lines > count_) {
-            beginInsertRows({}, count_, lines - 1);
-            count_ = lines;
-            endInsertRows();
-        } else {
-            beginResetModel();
-            count_ = lines;
-            endResetModel();
-        }
-        return true;
-    }
-
-    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : count_; }
-
-    QVariant data(const QModelIndex& index, int role) const override
-    {
-        const auto row = static_cast<std::size_t>(index.row());
-        const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
-        return text && index.isValid() && row < combo_.lines.size() ? shown(combo_.lines[row]) : QVariant();
-    }
-
-private:
-    const Combo& combo_;
-    int count_ = 0;
-};
-
 class ComboWidget : public QComboBox {
 public:
-    explicit ComboWidget(QWidget* parent) : QComboBox(parent)
+    ComboWidget(Combo& combo, QWidget* parent) : QComboBox(parent), combo_(combo), lines_(new QStringListModel(this))
     {
         setEditable(true);
         setInsertPolicy(NoInsert);
@@ -67,67 +31,77 @@ public:
         lineEdit()->setTextMargins(linemargin, 0, linemargin, 0);
         // Leaving the field is no pick, even if what stands in it is the text of a line.
         disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+        setModel(lines_);
+        auto* completer = new QCompleter(lines_, this);
+        completer->setCaseSensitivity(Qt::CaseInsensitive);
+        completer->setFilterMode(Qt::MatchContains);
+        completer->setMaxVisibleItems(rowsatonce);
+        setCompleter(completer);
+        connect(this, &QComboBox::activated, this, [this](int line) {
+            if (!userpick(combo_, index16(line))) {
+                refresh();
+            }
+        });
+        connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+            if (!usertype(combo_, bytesof(text))) {
+                refresh();
+            }
+        });
+    }
+
+    void refresh()
+    {
+        const QSignalBlocker blocked(this);
+        refreshlines();
+        if (currentIndex() != combo_.position) {
+            setCurrentIndex(combo_.position);
+        }
+        if (const QString text = shown(combo_.text); currentText() != text) {
+            setEditText(text);
+        }
     }
 
 protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); } // scrolls the window, picks nothing
-};
-
-class ComboView : public View {
-public:
-    ComboView(ScreenWindow& window, Combo& combo, ComboWidget* widget)
-        : View(window, combo, widget), combo_(combo), widget_(*widget), lines_(new LinesModel(combo, this))
-    {
-        widget->setModel(lines_);
-        auto* completer = new QCompleter(lines_, widget);
-        completer->setCaseSensitivity(Qt::CaseInsensitive);
-        completer->setFilterMode(Qt::MatchContains);
-        completer->setMaxVisibleItems(rowsatonce);
-        widget->setCompleter(completer);
-        connect(widget, &QComboBox::activated, this, [this](int line) {
-            if (!userpick(combo_, index16(line))) {
-                bring();
-            }
-        });
-        connect(widget->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-            if (!usertype(combo_, bytesof(text))) {
-                bring();
-            }
-        });
-    }
-
-protected:
-    void bringkind() override
-    {
-        lines_->bring();
-        if (widget_.currentIndex() != combo_.position) {
-            widget_.setCurrentIndex(combo_.position);
-        }
-        if (const QString text = shown(combo_.text); widget_.currentText() != text) {
-            widget_.setEditText(text);
-        }
-    }
 
     // A completion that was looked at and not taken does not stay.
-    bool eventFilter(QObject* watched, QEvent* event) override
+    void focusOutEvent(QFocusEvent* event) override
     {
-        if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-            bring();
+        if (event->reason() != Qt::PopupFocusReason) {
+            refresh();
         }
-        return View::eventFilter(watched, event);
+        QComboBox::focusOutEvent(event);
     }
 
 private:
+    // Lines are only added one by one or cleared all together, so how many there are tells which are new.
+    void refreshlines()
+    {
+        const auto wanted = static_cast<int>(combo_.lines.size());
+        if (wanted < lines_->rowCount()) {
+            lines_->setStringList({});
+        }
+        if (lines_->rowCount() == 0 && wanted > 0) {
+            QStringList all;
+            all.reserve(wanted);
+            std::transform(combo_.lines.begin(), combo_.lines.end(), std::back_inserter(all), shown);
+            lines_->setStringList(all);
+        }
+        for (int line = lines_->rowCount(); line < wanted; ++line) {
+            lines_->insertRow(line);
+            lines_->setData(lines_->index(line), shown(combo_.lines[static_cast<std::size_t>(line)]));
+        }
+    }
+
     Combo& combo_;
-    ComboWidget& widget_;
-    LinesModel* lines_;
+    QStringListModel* lines_;
 };
 
 } // namespace
 
-View* makecombo(ScreenWindow& window, Combo& combo, QWidget* parent)
+ControlView* makecombo(Combo& combo, QWidget* parent)
 {
-    return new ComboView(window, combo, new ComboWidget(parent));
+    return new ViewOf<ComboWidget>(combo, parent);
 }
 
 } // namespace brindor::toolkit::qt

@@ -1,9 +1,8 @@
 #include "toolkit/qt/flatbutton.h"
 
-#include "toolkit/qt/accesskey.h"
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/keys.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/screenwindow.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -22,10 +21,10 @@ FlatButton::FlatButton(Button& button, QWidget* parent) : QPushButton(parent), b
     setAttribute(Qt::WA_Hover);
 }
 
-void FlatButton::bring()
+void FlatButton::refresh()
 {
     const QString text = shown(button_.text);
-    bringcaption(*this, text, button_.accesskey);
+    setcaption(*this, text, button_.accesskey);
     text_.set(text, font(), Align::centre, button_.accesskey);
 }
 
@@ -50,7 +49,7 @@ void FlatButton::paintEvent(QPaintEvent* /*event*/)
 
 void FlatButton::keyPressEvent(QKeyEvent* event)
 {
-    if (ScreenWindow::presses(*event) && event->key() != Qt::Key_Space) {
+    if (presses(*event) && event->key() != Qt::Key_Space) {
         click();
     } else {
         QPushButton::keyPressEvent(event);

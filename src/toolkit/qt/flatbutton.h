@@ -11,7 +11,7 @@ class FlatButton : public QPushButton {
 public:
     FlatButton(Button& button, QWidget* parent);
 
-    void bring();
+    void refresh();
     int heightneeded(int width);
 
 protected:

@@ -1,6 +1,6 @@
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/controlview.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/view.h"
 
 #include <QFontMetrics>
 #include <QGroupBox>
@@ -15,7 +15,7 @@ class FrameWidget : public QGroupBox {
 public:
     FrameWidget(const Frame& frame, QWidget* parent) : QGroupBox(parent), frame_(frame) {}
 
-    void bring()
+    void refresh()
     {
         const QString caption = frame_.border ? withoutmnemonic(shown(frame_.text)) : QString();
         if (title() != caption) {
@@ -52,24 +52,11 @@ private:
     const Frame& frame_;
 };
 
-class FrameView : public View {
-public:
-    FrameView(ScreenWindow& window, Frame& frame, FrameWidget* widget) : View(window, frame, widget), widget_(*widget)
-    {
-    }
-
-protected:
-    void bringkind() override { widget_.bring(); }
-
-private:
-    FrameWidget& widget_;
-};
-
 } // namespace
 
-View* makeframe(ScreenWindow& window, Frame& frame, QWidget* parent)
+ControlView* makeframe(Frame& frame, QWidget* parent)
 {
-    return new FrameView(window, frame, new FrameWidget(frame, parent));
+    return new ViewOf<FrameWidget>(frame, parent);
 }
 
 } // namespace brindor::toolkit::qt

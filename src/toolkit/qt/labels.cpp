@@ -1,14 +1,11 @@
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/clicklabel.h"
+#include "toolkit/qt/controlview.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/screenwindow.h"
 #include "toolkit/qt/twips.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/qt/wrappedtext.h"
 #include "toolkit/user.h"
 
-#include <QKeyEvent>
-#include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace brindor::toolkit::qt {
@@ -16,9 +13,9 @@ namespace brindor::toolkit::qt {
 namespace {
 
 // A label that shows its text whole. One with a drop event is also a thing to click and to Tab to.
-class LabelWidget : public QLabel {
+class LabelWidget : public ClickLabel {
 public:
-    LabelWidget(Label& label, QWidget* parent) : QLabel(parent), label_(label)
+    LabelWidget(Label& label, QWidget* parent) : ClickLabel(parent), label_(label)
     {
         setTextFormat(Qt::PlainText);
         if (label.drop) {
@@ -27,7 +24,7 @@ public:
         }
     }
 
-    void bring()
+    void refresh()
     {
         const QString text = shown(label_.text);
         if (QLabel::text() != text) {
@@ -74,28 +71,8 @@ protected:
         text_.draw(painter, within, lettercolour(label_, isEnabled()));
     }
 
-    void mousePressEvent(QMouseEvent* event) override
-    {
-        pressed_ = label_.drop && event->button() == Qt::LeftButton;
-        event->setAccepted(pressed_);
-    }
-
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        if (pressed_ && rect().contains(event->position().toPoint())) {
-            pressed_ = false;
-            userclick(label_);
-        }
-    }
-
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (label_.drop && ScreenWindow::presses(*event)) {
-            userclick(label_);
-        } else {
-            QLabel::keyPressEvent(event);
-        }
-    }
+    bool listens() const override { return label_.drop != nullptr; }
+    void clicked() override { userclick(label_); }
 
 private:
     // A coloured surface keeps its text off the edge; a plain one lines its text up with what stands above it.
@@ -124,30 +101,13 @@ private:
     Label& label_;
     WrappedText text_;
     bool highlighted_ = false;
-    bool pressed_ = false;
-};
-
-class LabelView : public View {
-public:
-    LabelView(ScreenWindow& window, Label& label, LabelWidget* widget) : View(window, label, widget), widget_(*widget)
-    {
-    }
-    bool wraps() const override { return true; }
-    int heightfor(int width) override { return widget_.heightneeded(width); }
-    void highlight(bool on) override { widget_.highlight(on); }
-
-protected:
-    void bringkind() override { widget_.bring(); }
-
-private:
-    LabelWidget& widget_;
 };
 
 } // namespace
 
-View* makelabel(ScreenWindow& window, Label& label, QWidget* parent)
+ControlView* makelabel(Label& label, QWidget* parent)
 {
-    return new LabelView(window, label, new LabelWidget(label, parent));
+    return new ViewOf<LabelWidget>(label, parent);
 }
 
 } // namespace brindor::toolkit::qt

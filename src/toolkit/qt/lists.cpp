@@ -1,8 +1,8 @@
 #include "base/numbers.h"
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/controlview.h"
+#include "toolkit/qt/keys.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/screenwindow.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/qt/wrappedtext.h"
 #include "toolkit/user.h"
 
@@ -88,7 +88,7 @@ public:
         viewport()->setAttribute(Qt::WA_Hover);
     }
 
-    void bring()
+    void refresh()
     {
         if (list_.lines.size() < lines_.size() || !std::equal(lines_.begin(), lines_.end(), list_.lines.begin())) {
             keeprow();
@@ -111,6 +111,7 @@ public:
                 line->setData(Qt::CheckStateRole, state);
             }
         }
+        viewport()->update();
     }
 
 protected:
@@ -134,7 +135,7 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override
     {
-        if (ScreenWindow::presses(*event)) {
+        if (presses(*event)) {
             userpick(list_, index16(currentRow()));
         } else {
             QListWidget::keyPressEvent(event);
@@ -147,31 +148,16 @@ private:
     int rowat(const QMouseEvent& event) const { return indexAt(event.position().toPoint()).row(); }
 
     List& list_;
-    std::vector<std::string> lines_; // as brought
+    std::vector<std::string> lines_; // as shown
     int keptrow_ = -1;
     int pressedrow_ = -1;
 };
 
-class ListView : public View {
-public:
-    ListView(ScreenWindow& window, List& list, ListWidget* widget) : View(window, list, widget), widget_(*widget) {}
-
-protected:
-    void bringkind() override
-    {
-        widget_.bring();
-        widget_.viewport()->update();
-    }
-
-private:
-    ListWidget& widget_;
-};
-
 } // namespace
 
-View* makelist(ScreenWindow& window, List& list, QWidget* parent)
+ControlView* makelist(List& list, QWidget* parent)
 {
-    return new ListView(window, list, new ListWidget(list, parent));
+    return new ViewOf<ListWidget>(list, parent);
 }
 
 } // namespace brindor::toolkit::qt

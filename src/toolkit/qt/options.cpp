@@ -1,7 +1,7 @@
-#include "toolkit/qt/accesskey.h"
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/controlview.h"
+#include "toolkit/qt/keys.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/qt/wrappedtext.h"
 #include "toolkit/user.h"
 
@@ -26,12 +26,16 @@ public:
     OptionWidget(OptionButton& option, QWidget* parent) : QRadioButton(parent), option_(option)
     {
         setAttribute(Qt::WA_Hover);
+        connect(this, &QRadioButton::clicked, this, [this] {
+            setFocus(Qt::OtherFocusReason);
+            userclick(option_);
+        });
     }
 
-    void bring()
+    void refresh()
     {
         const QString text = shown(option_.text);
-        bringcaption(*this, text, option_.accesskey);
+        setcaption(*this, text, option_.accesskey);
         text_.set(text, font(), Align::left, option_.accesskey);
         if (isChecked() != option_.selected) {
             setAutoExclusive(option_.selected); // else the selected one could not be cleared
@@ -139,32 +143,11 @@ private:
     WrappedText text_;
 };
 
-class OptionView : public View {
-public:
-    OptionView(ScreenWindow& window, OptionButton& option, OptionWidget* widget)
-        : View(window, option, widget), option_(option), widget_(*widget)
-    {
-        connect(widget, &QRadioButton::clicked, this, [this] {
-            widget_.setFocus(Qt::OtherFocusReason);
-            userclick(option_);
-        });
-    }
-    bool wraps() const override { return true; }
-    int heightfor(int width) override { return widget_.heightneeded(width); }
-
-protected:
-    void bringkind() override { widget_.bring(); }
-
-private:
-    OptionButton& option_;
-    OptionWidget& widget_;
-};
-
 } // namespace
 
-View* makeoptionbutton(ScreenWindow& window, OptionButton& option, QWidget* parent)
+ControlView* makeoptionbutton(OptionButton& option, QWidget* parent)
 {
-    return new OptionView(window, option, new OptionWidget(option, parent));
+    return new ViewOf<OptionWidget>(option, parent);
 }
 
 } // namespace brindor::toolkit::qt

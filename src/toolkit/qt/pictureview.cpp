@@ -1,27 +1,26 @@
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/clicklabel.h"
+#include "toolkit/qt/controlview.h"
 #include "toolkit/qt/pictures.h"
-#include "toolkit/qt/screenwindow.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/user.h"
 
-#include <QKeyEvent>
-#include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace brindor::toolkit::qt {
 
 namespace {
 
-class PictureWidget : public QLabel {
+class PictureWidget : public ClickLabel {
 public:
-    PictureWidget(Picture& picture, QWidget* parent) : QLabel(parent), picture_(picture)
+    PictureWidget(Picture& picture, QWidget* parent) : ClickLabel(parent), picture_(picture)
     {
         if (picture.click) {
             setFocusPolicy(Qt::StrongFocus);
             setCursor(Qt::PointingHandCursor);
         }
     }
+
+    void refresh() {}
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
@@ -38,48 +37,19 @@ protected:
         }
     }
 
-    void mousePressEvent(QMouseEvent* event) override
-    {
-        pressed_ = picture_.click && event->button() == Qt::LeftButton;
-        event->setAccepted(pressed_);
-    }
-
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        if (pressed_ && rect().contains(event->position().toPoint())) {
-            pressed_ = false;
-            userclick(picture_);
-        }
-    }
-
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (picture_.click && ScreenWindow::presses(*event)) {
-            userclick(picture_);
-        } else {
-            QLabel::keyPressEvent(event);
-        }
-    }
+    bool listens() const override { return picture_.click != nullptr; }
+    void clicked() override { userclick(picture_); }
 
 private:
     Picture& picture_;
     StretchedPicture stretched_;
-    bool pressed_ = false;
-};
-
-class PictureView : public View {
-public:
-    using View::View;
-
-protected:
-    void bringkind() override {}
 };
 
 } // namespace
 
-View* makepicture(ScreenWindow& window, Picture& picture, QWidget* parent)
+ControlView* makepicture(Picture& picture, QWidget* parent)
 {
-    return new PictureView(window, picture, new PictureWidget(picture, parent));
+    return new ViewOf<PictureWidget>(picture, parent);
 }
 
 } // namespace brindor::toolkit::qt

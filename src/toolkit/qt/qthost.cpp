@@ -71,14 +71,14 @@ void QtHost::drop(Screen& screen)
 void QtHost::update(Control& control)
 {
     if (qt::ScreenWindow* window = windowof(*control.screen)) {
-        window->bring(control);
+        window->refresh(control);
     }
 }
 
 void QtHost::update(Screen& screen)
 {
     if (qt::ScreenWindow* window = windowof(screen)) {
-        window->bringscreen();
+        window->refreshscreen();
     }
 }
 

@@ -2,9 +2,9 @@
 
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/canvas.h"
+#include "toolkit/qt/controlview.h"
 #include "toolkit/qt/qttext.h"
 #include "toolkit/qt/twips.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/user.h"
 
 #include <QCloseEvent>
@@ -59,9 +59,9 @@ ScreenWindow::ScreenWindow(Screen& screen, QWidget* below)
     }
     for (Control* control : screen.controls) {
         QWidget* parent = control->container == nullptr ? canvas_ : &views_.at(control->container)->widget();
-        View* view = makeview(*this, *control, parent);
+        ControlView* view = makeview(*control, parent);
         views_.emplace(control, view);
-        view->bring();
+        view->refresh();
     }
     // A bar lies on whatever it is dropped on.
     for (Control* control : screen.controls) {
@@ -69,8 +69,8 @@ ScreenWindow::ScreenWindow(Screen& screen, QWidget* below)
             views_.at(control)->widget().raise();
         }
     }
-    bringscreen();
-    bringplace();
+    refreshscreen();
+    refreshplace();
     resize(size_.give(screen.width, screen.height));
 }
 
@@ -100,7 +100,7 @@ void ScreenWindow::endrun()
     loop_.exit();
 }
 
-void ScreenWindow::bringscreen()
+void ScreenWindow::refreshscreen()
 {
     if (screen_.closed) {
         endrun();
@@ -120,7 +120,7 @@ void ScreenWindow::bringscreen()
     }
     const bool movable = !presented_ || windowState() == Qt::WindowNoState; // else it would leave its state
     if (movable && (left_ != screen_.left || top_ != screen_.top)) {
-        bringplace();
+        refreshplace();
     }
     if (movable && (width_ != screen_.width || height_ != screen_.height)) {
         width_ = screen_.width;
@@ -131,17 +131,17 @@ void ScreenWindow::bringscreen()
     requestlayout();
 }
 
-void ScreenWindow::bringplace()
+void ScreenWindow::refreshplace()
 {
     left_ = screen_.left;
     top_ = screen_.top;
     move(displaycorner_ + QPoint(pixels(left_), pixels(top_)));
 }
 
-void ScreenWindow::bring(Control& control)
+void ScreenWindow::refresh(Control& control)
 {
     if (const auto view = views_.find(&control); view != views_.end()) {
-        view->second->bring();
+        view->second->refresh();
         requestlayout();
     }
 }
@@ -172,7 +172,7 @@ void ScreenWindow::setfirstfocus()
     }
 }
 
-View* ScreenWindow::viewat(QPoint global) const
+ControlView* ScreenWindow::viewat(QPoint global) const
 {
     for (const QWidget* at = childAt(mapFromGlobal(global)); at != nullptr && at != this; at = at->parentWidget()) {
         for (const auto& [control, view] : views_) {
@@ -182,12 +182,6 @@ View* ScreenWindow::viewat(QPoint global) const
         }
     }
     return nullptr;
-}
-
-bool ScreenWindow::presses(const QKeyEvent& event)
-{
-    const bool key = event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    return key && !event.isAutoRepeat();
 }
 
 bool ScreenWindow::event(QEvent* event)
@@ -297,7 +291,7 @@ std::vector<Box> ScreenWindow::boxesin(const Frame* container) const
         if (control->container != container) {
             continue;
         }
-        View* view = views_.at(control);
+        ControlView* view = views_.at(control);
         Box& box = boxes.emplace_back();
         box.control = control;
         box.record = pixels(control->place);

@@ -16,7 +16,7 @@ class QScrollArea;
 namespace brindor::toolkit::qt {
 
 class Canvas;
-class View;
+class ControlView;
 
 // The window of one screen: shows its controls where the layout puts them, scrolls where they do not fit, and tells
 // toolkit/user.h of its keys, its size and its close control. It goes when the record has closed, never by itself.
@@ -29,13 +29,10 @@ public:
     void present(); // shows the window, complete and in its place
     void run();     // returns when the screen has closed, or at endrun
     void endrun();
-    void bringscreen();                // the screen's own fields have changed
-    void bring(Control& control);      // a control's fields have changed
-    void focus(Control& control);      // the control has got the focus
-    View* viewat(QPoint global) const; // of the control that is seen at a place of the display; none elsewhere
-
-    // Whether a key presses what has the focus: Space, Return or Enter, and not one that is held down.
-    static bool presses(const QKeyEvent& event);
+    void refreshscreen();                     // the screen's own fields have changed
+    void refresh(Control& control);           // a control's fields have changed
+    void focus(Control& control);             // the control has got the focus
+    ControlView* viewat(QPoint global) const; // of the control that is seen at a place of the display; none elsewhere
 
 protected:
     bool event(QEvent* event) override;
@@ -45,7 +42,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void bringplace();
+    void refreshplace();
     void setfirstfocus();
     void requestlayout();
     void layoutcontrols();
@@ -59,14 +56,14 @@ private:
     QScrollArea* area_;
     Canvas* canvas_;
     QEventLoop loop_;
-    std::unordered_map<const Control*, View*> views_;
+    std::unordered_map<const Control*, ControlView*> views_;
     WindowSize size_;
     QPoint displaycorner_; // of the display that the windows are on; the record's place counts from it
     bool presented_ = false;
     bool layoutrequested_ = false;
     bool waited_ = false; // the size in hand has been looked at before
 
-    // As last brought into the window or reported from it.
+    // As last brought to the window or reported from it.
     double left_ = 0;
     double top_ = 0;
     double width_ = 0;

@@ -1,6 +1,6 @@
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/controlview.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/user.h"
 
 #include <QKeyEvent>
@@ -60,7 +60,7 @@ public:
         }
     }
 
-    void bring()
+    void refresh()
     {
         const QString what = shown(spin_.says);
         halves_[0]->setAccessibleName((what + QLatin1String(" up")).trimmed());
@@ -90,22 +90,11 @@ private:
     std::array<StepButton*, 2> halves_{};
 };
 
-class SpinView : public View {
-public:
-    SpinView(ScreenWindow& window, Spin& spin, SpinWidget* widget) : View(window, spin, widget), widget_(*widget) {}
-
-protected:
-    void bringkind() override { widget_.bring(); }
-
-private:
-    SpinWidget& widget_;
-};
-
 } // namespace
 
-View* makespin(ScreenWindow& window, Spin& spin, QWidget* parent)
+ControlView* makespin(Spin& spin, QWidget* parent)
 {
-    return new SpinView(window, spin, new SpinWidget(spin, parent));
+    return new ViewOf<SpinWidget>(spin, parent);
 }
 
 } // namespace brindor::toolkit::qt

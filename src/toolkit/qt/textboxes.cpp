@@ -1,6 +1,6 @@
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/controlview.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/view.h"
 #include "toolkit/user.h"
 
 #include <QKeyEvent>
@@ -15,41 +15,52 @@ namespace {
 
 constexpr int linemargin = 3; // pixels, beside those of the style
 
-class LineBoxView : public View {
+class LineBox : public QLineEdit {
 public:
-    LineBoxView(ScreenWindow& window, TextBox& box, QLineEdit* widget)
-        : View(window, box, widget), box_(box), widget_(*widget)
+    LineBox(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box)
     {
-        widget->setTextMargins(linemargin, 0, linemargin, 0);
-        widget->setMaxLength(std::numeric_limits<int>::max());
-        connect(widget, &QLineEdit::textEdited, this, [this](const QString& text) {
-            if (!usertype(box_, bytesof(text))) {
-                bring();
+        setTextMargins(linemargin, 0, linemargin, 0);
+        setMaxLength(std::numeric_limits<int>::max());
+        connect(this, &QLineEdit::textEdited, this, [this](const QString& typed) {
+            if (!usertype(box_, bytesof(typed))) {
+                refresh();
             }
         });
     }
 
-protected:
-    void bringkind() override
+    void refresh()
     {
-        widget_.setReadOnly(box_.readonly);
-        if (const QString text = shown(box_.text); widget_.text() != text) {
-            widget_.setText(text);
+        setReadOnly(box_.readonly);
+        if (const QString now = shown(box_.text); text() != now) {
+            setText(now);
         }
     }
 
 private:
     TextBox& box_;
-    QLineEdit& widget_;
 };
 
 // Tab leaves the box, and Return is the window's where nothing can be typed.
 class ManyLines : public QPlainTextEdit {
 public:
-    explicit ManyLines(QWidget* parent) : QPlainTextEdit(parent)
+    ManyLines(TextBox& box, QWidget* parent) : QPlainTextEdit(parent), box_(box)
     {
         setTabChangesFocus(true);
         document()->setDocumentMargin(textmargin - 1); // and the frame's line
+        connect(this, &QPlainTextEdit::textChanged, this, [this] {
+            if (!usertype(box_, bytesof(toPlainText()))) {
+                refresh();
+            }
+        });
+    }
+
+    void refresh()
+    {
+        const QSignalBlocker blocked(this);
+        setReadOnly(box_.readonly);
+        if (const QString now = shown(box_.text); toPlainText() != now) {
+            setPlainText(now);
+        }
     }
 
 protected:
@@ -61,42 +72,19 @@ protected:
             QPlainTextEdit::keyPressEvent(event);
         }
     }
-};
-
-class ManyLinesView : public View {
-public:
-    ManyLinesView(ScreenWindow& window, TextBox& box, ManyLines* widget)
-        : View(window, box, widget), box_(box), widget_(*widget)
-    {
-        connect(widget, &QPlainTextEdit::textChanged, this, [this] {
-            if (!usertype(box_, bytesof(widget_.toPlainText()))) {
-                bring();
-            }
-        });
-    }
-
-protected:
-    void bringkind() override
-    {
-        widget_.setReadOnly(box_.readonly);
-        if (const QString text = shown(box_.text); widget_.toPlainText() != text) {
-            widget_.setPlainText(text);
-        }
-    }
 
 private:
     TextBox& box_;
-    ManyLines& widget_;
 };
 
 } // namespace
 
-View* maketextbox(ScreenWindow& window, TextBox& box, QWidget* parent)
+ControlView* maketextbox(TextBox& box, QWidget* parent)
 {
     if (box.multiline) {
-        return new ManyLinesView(window, box, new ManyLines(parent));
+        return new ViewOf<ManyLines>(box, parent);
     }
-    return new LineBoxView(window, box, new QLineEdit(parent));
+    return new ViewOf<LineBox>(box, parent);
 }
 
 } // namespace brindor::toolkit::qt

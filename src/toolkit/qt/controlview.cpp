@@ -1,4 +1,4 @@
-#include "toolkit/qt/view.h"
+#include "toolkit/qt/controlview.h"
 
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/qttext.h"
@@ -21,19 +21,18 @@ const std::string& wordsof(const Control& control)
 
 } // namespace
 
-View::View(ScreenWindow& window, Control& control, QWidget* widget)
-    : QObject(widget), window_(window), control_(control), widget_(*widget)
+ControlView::ControlView(Control& control, QWidget* widget) : QObject(widget), control_(control), widget_(*widget)
 {
     widget->setObjectName(QString::fromStdString(control.name));
     widget->installEventFilter(this);
 }
 
-void View::bring()
+void ControlView::refresh()
 {
     const QSignalBlocker blocked(&widget_);
-    bringlook();
-    bringwords();
-    bringkind();
+    refreshlook();
+    refreshwords();
+    refreshkind();
     // Qt would hand the focus of a widget that goes to the next one; here nobody gets what nobody asked for.
     const bool going = !control_.visible || !control_.enabled;
     if (QWidget* focused = widget_.window()->focusWidget();
@@ -43,25 +42,25 @@ void View::bring()
     widget_.setEnabled(control_.enabled);
     widget_.setVisible(control_.visible);
     widget_.update();
-    brought_ = true;
+    fresh_ = true;
 }
 
-void View::bringlook()
+void ControlView::refreshlook()
 {
-    if (!brought_ || back_ != control_.back || fore_ != control_.fore) {
+    if (!fresh_ || back_ != control_.back || fore_ != control_.fore) {
         back_ = control_.back;
         fore_ = control_.fore;
         widget_.setPalette(palettefor(control_));
     }
-    if (!brought_ || font_ != control_.font) {
+    if (!fresh_ || font_ != control_.font) {
         font_ = control_.font;
         widget_.setFont(qtfont(font_));
     }
 }
 
-void View::bringwords()
+void ControlView::refreshwords()
 {
-    if (const std::string& words = wordsof(control_); !brought_ || words_ != words) {
+    if (const std::string& words = wordsof(control_); !fresh_ || words_ != words) {
         words_ = words;
         widget_.setAccessibleName(shown(words_));
     }
@@ -71,19 +70,7 @@ void View::bringwords()
     }
 }
 
-bool View::wraps() const
-{
-    return false;
-}
-
-int View::heightfor(int /*width*/)
-{
-    return 0;
-}
-
-void View::highlight(bool /*on*/) {}
-
-bool View::eventFilter(QObject* /*watched*/, QEvent* event)
+bool ControlView::eventFilter(QObject* /*watched*/, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn) {
         userfocus(control_);
@@ -96,29 +83,29 @@ bool View::eventFilter(QObject* /*watched*/, QEvent* event)
     return false;
 }
 
-View* makeview(ScreenWindow& window, Control& control, QWidget* parent)
+ControlView* makeview(Control& control, QWidget* parent)
 {
     switch (control.kind) {
     case Kind::label:
-        return makelabel(window, static_cast<Label&>(control), parent);
+        return makelabel(static_cast<Label&>(control), parent);
     case Kind::button: {
         auto& button = static_cast<Button&>(control);
-        return button.bar ? makebar(window, button, parent) : makebutton(window, button, parent);
+        return button.bar ? makebar(button, parent) : makebutton(button, parent);
     }
     case Kind::optionbutton:
-        return makeoptionbutton(window, static_cast<OptionButton&>(control), parent);
+        return makeoptionbutton(static_cast<OptionButton&>(control), parent);
     case Kind::textbox:
-        return maketextbox(window, static_cast<TextBox&>(control), parent);
+        return maketextbox(static_cast<TextBox&>(control), parent);
     case Kind::list:
-        return makelist(window, static_cast<List&>(control), parent);
+        return makelist(static_cast<List&>(control), parent);
     case Kind::combo:
-        return makecombo(window, static_cast<Combo&>(control), parent);
+        return makecombo(static_cast<Combo&>(control), parent);
     case Kind::frame:
-        return makeframe(window, static_cast<Frame&>(control), parent);
+        return makeframe(static_cast<Frame&>(control), parent);
     case Kind::picture:
-        return makepicture(window, static_cast<Picture&>(control), parent);
+        return makepicture(static_cast<Picture&>(control), parent);
     case Kind::spin:
-        return makespin(window, static_cast<Spin&>(control), parent);
+        return makespin(static_cast<Spin&>(control), parent);
     }
     return nullptr;
 }

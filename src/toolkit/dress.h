@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-// How the screens that are as small as their contents are laid out and dressed, so that they look drawn by one hand.
+// How screens are put together and dressed, so that they look drawn by one hand.
 namespace brindor::toolkit {
 
 namespace grid { // twips
@@ -19,12 +19,14 @@ inline constexpr double buttonwidth = 1440;
 } // namespace grid
 
 struct Look {
-    Colour surface; // of the screen, its labels, frames and options
-    Colour button;
+    Colour surface; // of labels, frames, options and pictures
+    Colour button;  // of buttons, bars and spins
     Font font;
+    Colour field{255, 255, 255}; // of text boxes, lists and drop-down lists
+    Colour letters{0, 0, 0};
 };
 
-// A control joins a screen or a frame, dressed by its kind: fields and lists are white, letters black.
+// A control joins a screen or a frame, dressed by its kind. Tab goes through the controls in the order of these calls.
 void put(const Look& look, Screen& screen, Control& control, std::string name, std::string text, const Place& place);
 void put(const Look& look, Frame& frame, Control& control, std::string name, std::string text, const Place& place);
 

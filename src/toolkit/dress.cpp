@@ -1,4 +1,4 @@
-#include "toolkit/layout.h"
+#include "toolkit/dress.h"
 
 #include "toolkit/operations.h"
 
@@ -14,7 +14,7 @@ Colour colourof(const Look& look, Kind kind)
     case Kind::textbox:
     case Kind::list:
     case Kind::combo:
-        return {255, 255, 255};
+        return look.field;
     case Kind::button:
     case Kind::spin:
         return look.button;
@@ -28,6 +28,7 @@ void dress(const Look& look, Control& control, std::string text, const Place& pl
     control.text = std::move(text);
     control.place = place;
     control.back = colourof(look, control.kind);
+    control.fore = look.letters;
     control.font = look.font;
 }
 

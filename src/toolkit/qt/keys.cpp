@@ -1,4 +1,4 @@
-#include "toolkit/qt/accesskey.h"
+#include "toolkit/qt/keys.h"
 
 #include "toolkit/qt/qttext.h"
 
@@ -7,7 +7,13 @@
 
 namespace brindor::toolkit::qt {
 
-void bringcaption(QAbstractButton& button, const QString& text, char accesskey)
+bool presses(const QKeyEvent& event)
+{
+    const bool key = event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    return key && !event.isAutoRepeat();
+}
+
+void setcaption(QAbstractButton& button, const QString& text, char accesskey)
 {
     if (const QString caption = withoutmnemonic(text); button.text() != caption) {
         button.setText(caption);
