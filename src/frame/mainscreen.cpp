@@ -8,7 +8,7 @@
 #include "frame/services/log.h"
 #include "frame/services/placement.h"
 #include "frame/services/settings.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "setup/curstats.h"
 #include "setup/setup.h"
 #include "timeline/reader.h"

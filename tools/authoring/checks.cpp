@@ -3,9 +3,7 @@
 #include "authoring/limits.h"
 #include "authoring/playable.h"
 #include "authoring/words.h"
-#include "base/numbers.h"
 #include "base/text.h"
-#include "questions/catalogue.h"
 #include "questions/datetext.h"
 #include "timeline/timeline.h"
 
@@ -215,15 +213,13 @@ void checkeventfairness(const Forms& forms, Notes notes)
     Seen dates;
     Usage usedgroups("group", notes);
     Usage usednations("nation", notes);
-    isperson = 0;
-    for (std::size_t i = 0; i < forms.events.size(); ++i) {
-        const EventForm& form = forms.events[i];
+    for (const EventForm& form : forms.events) {
         checkitem(form, longesteventname, notes);
         const std::string year = yearin(form.name);
         if (!year.empty()) {
             notes.warning(form, "name", year + " looks like a year, which gives the date away");
         }
-        const std::string date = datetext(index16(static_cast<std::int64_t>(i)), "to");
+        const std::string date = datetext(form, "to");
         if (const std::optional<Twins> twins = dates.add(date, form)) {
             notes.warning(twins->second, "date1",
                           "the date " + inquotes(date) + " is that of " + twins->first.name + ", " +

@@ -1,6 +1,6 @@
 #include "authoring/playable.h"
 
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/types.h"
 
@@ -11,7 +11,7 @@ std::vector<UnaskedKind> unaskedkinds()
     std::vector<UnaskedKind> unasked;
     for (std::int16_t type = 1; type <= lasttype; ++type) {
         if (!canfill(type)) {
-            unasked.push_back({std::string(kindof(type).name), kindof(type).family == Family::people});
+            unasked.push_back({std::string(kindof(type).name), kindof(type).of == ItemKind::person});
         }
     }
     return unasked;

@@ -5,7 +5,7 @@
 #include "base/text.h"
 #include "frame/services/failures.h"
 #include "frame/services/placement.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "timeline/timeline.h"
 
 #include <algorithm>
