@@ -4,7 +4,7 @@
 #include "base/files.h"
 #include "base/text.h"
 #include "ground.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "timeline/timeline.h"
 
 using namespace brindor;

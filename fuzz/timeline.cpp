@@ -4,7 +4,7 @@
 
 #include "base/text.h"
 #include "ground.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/texts.h"
 #include "questions/types.h"

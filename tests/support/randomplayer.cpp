@@ -4,7 +4,7 @@
 #include "editors/recordeditor.h"
 #include "frame/services/score.h"
 #include "frame/services/settings.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/texts.h"
 #include "questions/types.h"
 #include "support/scratchfolder.h"
@@ -17,7 +17,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <numeric>
 #include <set>
 #include <utility>
@@ -106,9 +108,7 @@ void RandomPlayer::dosomething(Screen& screen)
     } else if (what == 5 && screen.focus != nullptr) {
         userleave(*screen.focus);
     } else if (what == 6 && screen.name == "bdqedit") {
-        viewonly = index16(drawn(2)); // both modes of the editors, each without what the other has left open
-        RecordEditor<PersonFamily>::newentry = 0;
-        RecordEditor<EventFamily>::newentry = 0;
+        viewonly = index16(drawn(2)); // both modes of the editors
     } else {
         std::vector<Control*> usablecontrols;
         for (Control* control : screen.controls) {
@@ -190,6 +190,10 @@ void RandomPlayer::look(const Screen& screen)
     if (screen.name == "main") {
         lookatlog();
     }
+    if (screen.name == "bdqedit") { // a new record that a title bar left open would be asked about, also while browsing
+        RecordEditor<PersonFamily>::newentry = 0;
+        RecordEditor<EventFamily>::newentry = 0;
+    }
     // In browse mode the editors leave the Timeline alone, but for New and Delete where there are no nations.
     const bool editor = screen.name == "PEntry" || screen.name == "eEntry";
     if (!editor || viewonly == 0 || nnations == 0) {
@@ -214,7 +218,7 @@ void RandomPlayer::lookatquestion(const Screen& screen)
     const std::set<std::int16_t> items(chosen.begin(), chosen.begin() + 5);
     ++asked_;
     worth_ = screen.name == "mchoice" ? 5 : screen.name == "qsort" ? 20 : 25;
-    const bool ofpeople = kindof(qtype).family == Family::people;
+    const bool ofpeople = kindof(qtype).of == ItemKind::person;
     std::set<std::string> texts;
     for (const std::int16_t item : items) {
         texts.insert(getpstr(item, qtype));
@@ -283,6 +287,20 @@ void RandomPlayer::writetimelines()
     nations = catalogue({});
     nnations = 0;
     writefile("Medieval.bd3", timelinetext());
+}
+
+std::uint64_t seedwanted()
+{
+    const char* given = std::getenv("BRINDOR_SEED");
+    const std::uint64_t seed = given != nullptr ? std::strtoull(given, nullptr, 10) : std::random_device()();
+    std::cout << "BRINDOR_SEED=" << seed << '\n';
+    return seed;
+}
+
+int questionswanted(int otherwise)
+{
+    const char* given = std::getenv("BRINDOR_QUESTIONS");
+    return given != nullptr ? std::atoi(given) : otherwise;
 }
 
 } // namespace brindor::tests

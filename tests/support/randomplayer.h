@@ -26,7 +26,6 @@ public:
     static void writetimelines();
 
     int questionsasked() const { return asked_; }
-    std::int64_t steps() const { return steps_; }
 
 private:
     bool done() const { return asked_ >= questions_; }
@@ -57,5 +56,9 @@ private:
     std::int64_t logged_ = 0; // bytes of the log that were looked at
     int askedbefore_ = 0;     // questions that the log was looked at for
 };
+
+// BRINDOR_SEED, which repeats a run, else a fresh one; printed. BRINDOR_QUESTIONS, else as many as named.
+std::uint64_t seedwanted();
+int questionswanted(int otherwise);
 
 } // namespace brindor::tests
