@@ -11,7 +11,6 @@ using namespace toolkit;
 
 void MemoryHost::wait(Screen& screen)
 {
-    constexpr int patience = 10000;
     for (int acts = 0; !screen.closed && !wantsquit; ++acts) {
         const auto person = persons.find(screen.name);
         if (person == persons.end() || acts == patience) {

@@ -22,8 +22,9 @@ public:
     ~MemoryHost() override { toolkit::sethost(before_); }
 
     // Who acts on the screen of a name; called again and again until the screen has closed. A screen that waits for
-    // nobody, or for a person who does not close it in 10000 acts, fails the test and is closed.
+    // nobody, or for a person who does not close it within `patience` acts, fails the test and is closed.
     std::map<std::string, Person> persons;
+    int patience = 10000;
     std::function<void(const toolkit::Message&)> whilemessage; // runs while a message is open
 
     std::deque<bool> answers; // to the coming questions; No when none is left

@@ -1,0 +1,32 @@
+#include "support/randomplayer.h"
+
+#include "frame/mainscreen.h"
+#include "support/gametest.h"
+#include "toolkit/operations.h"
+
+#include <limits>
+
+namespace brindor {
+
+class RandomPlay : public tests::GameTest {
+protected:
+    RandomPlay() { tests::RandomPlayer::writetimelines(); }
+};
+
+TEST_F(RandomPlay, NothingThatAUserDoesBringsTheGameOutOfOrder)
+{
+    constexpr double slowest = 50; // milliseconds
+    tests::RandomPlayer player(tests::seedwanted(), tests::questionswanted(2000), slowest);
+    for (const char* name : {"main", "setup", "bdqedit", "curStats", "PEntry", "eEntry", "ImgDisp", "mchoice", "qsort",
+                             "qmatch", "showscor"}) {
+        host.persons[name] = [&player](toolkit::Screen& screen) { player.act(screen); };
+    }
+    host.whilemessage = [&](const toolkit::Message&) { host.answers.assign(1, player.answer()); };
+    host.patience = std::numeric_limits<int>::max();
+    host.pictures["TITLE.BMP"] = 0;
+    MainScreen screen(folder.path().string());
+    toolkit::showmodal(screen);
+    EXPECT_GT(player.questionsasked(), 0);
+}
+
+} // namespace brindor
