@@ -10,6 +10,7 @@
 #include "support/scratchfolder.h"
 #include "support/timelines.h"
 #include "timeline/usedmarks.h"
+#include "timeline/writer.h"
 #include "toolkit/operations.h"
 #include "toolkit/user.h"
 

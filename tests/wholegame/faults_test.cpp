@@ -4,6 +4,7 @@
 #include "frame/services/settings.h"
 #include "support/gametest.h"
 #include "support/timelines.h"
+#include "timeline/writer.h"
 #include "toolkit/operations.h"
 
 #include <algorithm>
@@ -26,7 +27,7 @@ protected:
     Faults()
     {
         tests::setnumbered(12, 12);
-        timeline_ = tests::timelinetext();
+        timeline_ = timelinetext();
         writefile("Ancient.bd3", timeline_);
         writefile("Classic.bd3", timeline_);
         nquestion = 3;
