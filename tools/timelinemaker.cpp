@@ -1,10 +1,11 @@
 #include "authoring/commands.h"
+#include "authoring/fairness.h"
 #include "authoring/summary.h"
 #include "base/text.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cctype>
+#include <cstdint>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -23,12 +24,12 @@ int report(const Findings& findings, std::ostream& out)
     return haserrors(findings) ? 1 : 0;
 }
 
-bool istimelinefile(const std::string& target)
+// "2 warnings"
+std::string counted(const Findings& findings, Severity severity, const std::string& word)
 {
-    std::string lower = target;
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return lower.ends_with(".bd3");
+    const auto count = std::count_if(findings.begin(), findings.end(),
+                                     [severity](const Finding& finding) { return finding.severity == severity; });
+    return numbertext(count) + ' ' + word + (count == 1 ? "" : "s");
 }
 
 int check(const std::vector<std::string>& targets)
@@ -37,11 +38,9 @@ int check(const std::vector<std::string>& targets)
     for (const std::string& target : targets) {
         const Findings findings = istimelinefile(target) ? checkfile(target) : checkfolder(target);
         status = std::max(status, report(findings, std::cout));
-        const auto errors = std::count_if(findings.begin(), findings.end(),
-                                          [](const Finding& finding) { return finding.severity == Severity::error; });
-        const auto warnings = static_cast<std::int64_t>(findings.size()) - errors;
-        std::cerr << target << ": " << errors << (errors == 1 ? " error, " : " errors, ") << warnings
-                  << (warnings == 1 ? " warning" : " warnings") << '\n';
+        std::cerr << target << ": " << counted(findings, Severity::error, "error") << ", "
+                  << counted(findings, Severity::warning, "warning") << ", " << counted(findings, Severity::note, "note")
+                  << '\n';
     }
     return status;
 }
@@ -50,6 +49,14 @@ int summarize(const std::vector<std::string>& folders)
 {
     Findings findings;
     std::cout << summarytable(folders, findings);
+    return report(findings, std::cerr);
+}
+
+int judge(const std::vector<std::string>& targets, std::uint64_t seed)
+{
+    Findings findings;
+    std::cout << fairnesstable(targets, seed, findings) << '\n'
+              << fairnessdraws << " questions of each kind, seed " << seed << ".\n";
     return report(findings, std::cerr);
 }
 
@@ -78,12 +85,21 @@ int main(int argc, char** argv)
     exporting->add_option("FOLDER", folder, "Where to write the two files; made if missing")->required();
     exporting->add_flag("--overwrite", overwrite, "Replace people.csv and events.csv that stand in the folder");
 
+    std::uint64_t seed = 1;
+    CLI::App* judging = app.add_subcommand("fairness", "Tell how many questions have two right answers");
+    judging->add_option("TARGET", targets, "Folders, or timeline files ending in .bd3")->required();
+    judging->add_option("--seed", seed, "Another number draws other questions");
+    judging->footer(fairnessrules());
+
     CLI11_PARSE(app, argc, argv);
     if (make->parsed()) {
         return report(maketimeline(folder, file), std::cerr);
     }
     if (checking->parsed()) {
         return summary ? summarize(targets) : check(targets);
+    }
+    if (judging->parsed()) {
+        return judge(targets, seed);
     }
     return report(exporttimeline(file, folder, overwrite), std::cerr);
 }

@@ -5,13 +5,16 @@
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
 #include "authoring/timelinetext.h"
+#include "authoring/words.h"
 #include "base/files.h"
 #include "base/text.h"
 #include "timeline/reader.h"
 
 #include <array>
+#include <cctype>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace brindor::authoring {
 
@@ -22,7 +25,7 @@ void fail(Findings& findings, const std::string& file, const std::string& what)
     findings.push_back({Severity::error, file, 0, what});
 }
 
-void checkplaces(const Forms& forms, Findings& findings)
+void checkforpictures(const Forms& forms, Findings& findings)
 {
     for (const EventForm& form : forms.events) {
         if (form.picture.empty() && !hasplace(form)) {
@@ -93,7 +96,7 @@ Findings checkfolder(const std::string& folder)
     Forms forms = readfolder(folder, findings);
     const bool complete = !haserrors(findings);
     checkrecords(forms, findings);
-    checkplaces(forms, findings);
+    checkforpictures(forms, findings);
     sortforms(forms);
     const std::vector<EventPicture> pictures =
         findpictures(forms, mapprefix(folder), std::array{folder}, true, findings);
@@ -105,7 +108,9 @@ Findings checkfolder(const std::string& folder)
     if (complete) { // records left out would make a type look as if it could not be filled
         checktimeline(forms, findings);
     }
-    checkfairness(forms, findings);
+    checktexts(forms, findings);
+    checkdates(forms, findings);
+    checkplaces(forms, findings);
     sortfindings(findings);
     return findings;
 }
@@ -118,10 +123,48 @@ Findings checkfile(const std::string& file)
         checkrecords(*forms, findings);
         findpictures(*forms, mapprefix(file), std::array{folderof(file)}, true, findings);
         checktimeline(*forms, findings);
-        checkfairness(*forms, findings);
+        checktexts(*forms, findings);
+        checkdates(*forms, findings);
         sortfindings(findings);
     }
     return findings;
+}
+
+bool istimelinefile(const std::string& target)
+{
+    return folded(target).ends_with(".bd3");
+}
+
+bool loadtarget(const std::string& target, Findings& findings)
+{
+    Findings own;
+    if (istimelinefile(target)) {
+        readfile(target, own);
+    } else {
+        Forms forms = readfolder(target, own);
+        sortforms(forms);
+        if (const Result<Done> put = puttimeline(forms, std::vector<EventPicture>(forms.events.size())); !put) {
+            fail(own, target, put.reason);
+        }
+    }
+    const bool loaded = !haserrors(own);
+    findings.insert(findings.end(), own.begin(), own.end());
+    return loaded;
+}
+
+std::string titleof(std::string target)
+{
+    while (target.size() > 1 && target.ends_with('/')) {
+        target.pop_back();
+    }
+    std::string title = target.substr(target.find_last_of('/') + 1);
+    if (istimelinefile(title)) {
+        title.resize(title.size() - 4);
+    }
+    if (!title.empty()) {
+        title.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(title.front())));
+    }
+    return title;
 }
 
 Findings exporttimeline(const std::string& file, const std::string& folder, bool overwrite)

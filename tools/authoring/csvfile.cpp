@@ -11,15 +11,6 @@ namespace {
 
 constexpr std::string_view blanks = " \t";
 
-std::string trimmed(std::string_view text)
-{
-    const std::size_t start = text.find_first_not_of(blanks);
-    if (start == std::string_view::npos) {
-        return {};
-    }
-    return std::string(text.substr(start, text.find_last_not_of(blanks) + 1 - start));
-}
-
 struct Parsing {
     CsvTable table;
     CsvRecord record;
@@ -79,6 +70,15 @@ private:
 };
 
 } // namespace
+
+std::string trimmed(std::string_view text)
+{
+    const std::size_t start = text.find_first_not_of(blanks);
+    if (start == std::string_view::npos) {
+        return {};
+    }
+    return std::string(text.substr(start, text.find_last_not_of(blanks) + 1 - start));
+}
 
 CsvTable parsecsv(std::string_view text)
 {

@@ -29,6 +29,9 @@ struct CsvTable {
 // Empty lines and a byte order mark are skipped. A record whose fields are all empty is kept.
 CsvTable parsecsv(std::string_view text);
 
+// Without blanks and tabs around it.
+std::string trimmed(std::string_view text);
+
 // One record as a line, ended by a line feed.
 std::string csvline(const std::vector<std::string>& fields);
 

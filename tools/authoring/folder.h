@@ -5,6 +5,7 @@
 #include "authoring/forms.h"
 
 #include <optional>
+#include <span>
 #include <string>
 
 namespace brindor::authoring {
@@ -19,8 +20,17 @@ Forms readfolder(const std::string& folder, Findings& findings);
 // The same for one of the two files; the other's records stay empty.
 Forms readevents(const std::string& folder, Findings& findings);
 
-// The records of a CSV file whose header row must be `columns`. Rows behind a fault are missing. Nothing where the
-// file can't be read or its header is another.
-std::optional<std::vector<CsvRecord>> readtable(const Source& source, Findings& findings);
+struct Table {
+    Source source;
+    std::vector<CsvRecord> records; // without the headings
+};
+
+// A CSV file whose first row holds the headings: those of `columns`, in any order, letter case and blanks aside;
+// other columns are left unread. Rows behind a fault are missing. Nothing where the file can't be read or a needed
+// column is missing.
+std::optional<Table> readtable(const std::string& file, std::span<const Column> columns, Findings& findings);
+
+// The field of a record in a column; empty where there is none.
+std::string fieldof(const Source& source, const CsvRecord& record, std::string_view column);
 
 } // namespace brindor::authoring

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <span>
 #include <vector>
 
 namespace brindor::authoring {
@@ -59,10 +60,13 @@ std::vector<std::string> itemfields(const ItemForm& form)
             form.desc2};
 }
 
-std::string csvtext(std::span<const std::string_view> columns, const std::vector<std::vector<std::string>>& rows)
+std::string csvtext(std::span<const Column> columns, const std::vector<std::vector<std::string>>& rows)
 {
-    std::string text(byteordermark);
-    text += csvline({columns.begin(), columns.end()});
+    std::vector<std::string> headings;
+    for (const Column& column : columns) {
+        headings.emplace_back(column.name);
+    }
+    std::string text = std::string(byteordermark) + csvline(headings);
     for (const std::vector<std::string>& row : rows) {
         text += csvline(row);
     }
@@ -95,7 +99,7 @@ std::string peopletext(const Forms& forms)
         rows.push_back(itemfields(form));
         rows.back().insert(rows.back().end(), {form.faction, form.occupation});
     }
-    return csvtext(peoplecolumns, rows);
+    return csvtext(std::span(peoplecolumns).first(writtenpeoplecolumns), rows);
 }
 
 std::string eventstext(const Forms& forms)
@@ -107,7 +111,7 @@ std::string eventstext(const Forms& forms)
             rows.back().end(),
             {form.group, form.nation1, form.nation2 == form.nation1 ? "" : form.nation2, "", "", "", form.picture});
     }
-    return csvtext(eventcolumns, rows);
+    return csvtext(std::span(eventcolumns).first(writteneventcolumns), rows);
 }
 
 } // namespace brindor::authoring

@@ -148,6 +148,14 @@ std::vector<std::string> wordsof(std::string_view text)
     return words;
 }
 
+bool holdswords(std::string_view whole, std::string_view part)
+{
+    const std::vector<std::string> words = wordsof(whole);
+    const std::vector<std::string> wanted = wordsof(part);
+    return !wanted.empty() &&
+           std::search(words.begin(), words.end(), wanted.begin(), wanted.end(), sameword) != words.end();
+}
+
 std::string sharedword(std::string_view name, std::string_view text)
 {
     const std::vector<std::string> held = wordsof(text);

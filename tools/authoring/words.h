@@ -16,6 +16,10 @@ bool listedbefore(const std::string& a, const std::string& b);
 // The words of a folded text: runs of letters.
 std::vector<std::string> wordsof(std::string_view text);
 
+// Whether the words of `part` stand one after the other in `whole`, singular or plural: "Greek cities" in "Western Greek
+// cities".
+bool holdswords(std::string_view whole, std::string_view part);
+
 // A word of `name` that `text` holds too, in the singular or plural; empty where there is none. Words of fewer than
 // four letters and words that stand in many names, as "battle" or "king", don't count.
 std::string sharedword(std::string_view name, std::string_view text);

@@ -56,7 +56,7 @@ Findings drawmaps(const std::string& folder, const std::string& outfolder, const
         return findings;
     }
     const LocatorMaps maps(std::move(*coastlines));
-    for (std::size_t i = 0; i < names.size() && findings.empty(); ++i) {
+    for (std::size_t i = 0; i < names.size() && !haserrors(findings); ++i) {
         const EventForm& form = forms.events[i];
         if (ismap(names[i]) && hasplace(form)) {
             const QImage map = maps.draw({*form.latitude, *form.longitude}, QString::fromStdString(form.place));

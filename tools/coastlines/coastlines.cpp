@@ -1,9 +1,8 @@
-#include "mapmaker/coastlines.h"
+#include "coastlines/coastlines.h"
 
 #include "base/text.h"
+#include "coastlines/landtext.h"
 
-#include <QByteArray>
-#include <QFile>
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -11,11 +10,12 @@
 #include <numbers>
 #include <utility>
 
-namespace brindor::mapmaker {
+namespace brindor {
 
 namespace {
 
 constexpr double degree = std::numbers::pi / 180;
+constexpr double earthradius = 6371; // kilometres
 constexpr double unitsperdegree = 100;
 constexpr std::size_t fewestpoints = 3;
 
@@ -105,15 +105,11 @@ Result<Coastlines> readcoastlines(std::string_view text)
 
 Result<Coastlines> worldcoastlines()
 {
-    QFile file(":/land.txt");
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {std::nullopt, "the coastlines are not built into the program"};
-    }
-    const QByteArray text = file.readAll();
-    return readcoastlines({text.constData(), static_cast<std::size_t>(text.size())});
+    return readcoastlines(landtext);
 }
 
-// Counts how often the way from the position to the north pole crosses the ring.
+// Counts how often the way from the position to the north pole crosses the ring. A point right north of the position
+// has the same number for both lines that meet there, so it is counted once.
 bool holds(const Ring& ring, const Position& position)
 {
     bool inside = false;
@@ -122,8 +118,8 @@ bool holds(const Ring& ring, const Position& position)
         const Position& from = ring.positions[i];
         const Position& to = ring.positions[(i + 1) % count];
         const double west = wrapped(from.longitude - position.longitude);
-        const double east = west + wrapped(to.longitude - from.longitude);
-        if ((west > 0) == (east > 0) || std::abs(west) > 90) {
+        const double east = wrapped(to.longitude - position.longitude);
+        if ((west > 0) == (east > 0) || std::abs(west - east) > 180) {
             continue;
         }
         const double latitude = from.latitude + (to.latitude - from.latitude) * west / (west - east);
@@ -132,4 +128,36 @@ bool holds(const Ring& ring, const Position& position)
     return inside;
 }
 
-} // namespace brindor::mapmaker
+double distance(const Position& a, const Position& b)
+{
+    return earthradius * std::acos(std::clamp(dot(vectorof(a), vectorof(b)), -1.0, 1.0));
+}
+
+// The stretch between two points of a ring is short, so the plane that touches the globe at the position will do.
+double landdistance(const Coastlines& coastlines, const Position& position)
+{
+    const auto holding = std::count_if(coastlines.begin(), coastlines.end(),
+                                       [&position](const Ring& ring) { return holds(ring, position); });
+    if (holding % 2 != 0) {
+        return 0;
+    }
+    const double narrow = std::cos(position.latitude * degree);
+    double nearest = 180;
+    for (const Ring& ring : coastlines) {
+        const std::size_t count = ring.positions.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            const Position& from = ring.positions[i];
+            const Position& to = ring.positions[(i + 1) % count];
+            const double x = wrapped(from.longitude - position.longitude) * narrow;
+            const double y = from.latitude - position.latitude;
+            const double dx = wrapped(to.longitude - from.longitude) * narrow;
+            const double dy = to.latitude - from.latitude;
+            const double length = std::max(dx * dx + dy * dy, 1e-12);
+            const double along = std::clamp(-(x * dx + y * dy) / length, 0.0, 1.0);
+            nearest = std::min(nearest, std::hypot(x + along * dx, y + along * dy));
+        }
+    }
+    return nearest * degree * earthradius;
+}
+
+} // namespace brindor

@@ -6,7 +6,7 @@
 #include <vector>
 
 // The coastlines of the world, from data/coastlines.
-namespace brindor::mapmaker {
+namespace brindor {
 
 // A point of the unit sphere: x to latitude and longitude 0, y to longitude 90 east, z to the north pole.
 struct Vector {
@@ -49,4 +49,10 @@ Result<Coastlines> worldcoastlines();
 // Whether the ring's land side holds the position. The north pole is sea.
 bool holds(const Ring& ring, const Position& position);
 
-} // namespace brindor::mapmaker
+// Kilometres between two positions on the globe.
+double distance(const Position& a, const Position& b);
+
+// Kilometres from a position to the nearest coast; 0 on land.
+double landdistance(const Coastlines& coastlines, const Position& position);
+
+} // namespace brindor

@@ -1,0 +1,156 @@
+#include "authoring/checks.h"
+
+#include "authoring/limits.h"
+#include "authoring/notes.h"
+#include "authoring/words.h"
+#include "base/text.h"
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brindor::authoring {
+
+namespace {
+
+void checktext(const ItemForm& form, std::string_view column, const std::string& text, std::size_t longest,
+               Notes& notes)
+{
+    const std::size_t length = charactercount(text);
+    if (length > longest) {
+        notes.warning(form, column,
+                      numbertext(static_cast<std::int64_t>(length)) +
+                          " characters are too long for the screens; at most " +
+                          numbertext(static_cast<std::int64_t>(longest)) + " fit");
+    }
+}
+
+void checkdescription(const ItemForm& form, std::string_view column, const std::string& text, Notes& notes)
+{
+    checktext(form, column, text, longestdescription, notes);
+    const std::string word = sharedword(form.name, text);
+    if (!word.empty()) {
+        notes.warning(form, column, "the word " + inquotes(word) + " gives the name away");
+    }
+    const std::string year = yearin(text);
+    if (!year.empty()) {
+        notes.warning(form, column, year + " looks like a year, which gives the date away");
+    }
+}
+
+void checkitem(const ItemForm& form, std::size_t longestname, Notes& notes)
+{
+    checktext(form, "name", form.name, longestname, notes);
+    if (form.desc1.empty()) {
+        notes.warning(form, "desc1", "empty; questions about descriptions leave this record out");
+    }
+    checkdescription(form, "desc1", form.desc1, notes);
+    checkdescription(form, "desc2", form.desc2, notes);
+}
+
+// One list of names and the records that use them.
+class Usage {
+public:
+    Usage(std::string_view what, Notes& notes) : what_(what), notes_(notes) {}
+
+    // The record's one or two columns with their names.
+    void use(const ItemForm& form, const std::map<std::string_view, std::string>& columns)
+    {
+        std::set<std::string> counted;
+        for (const auto& [column, name] : columns) {
+            if (name.empty()) {
+                notes_.warning(form, column, "empty; the questions that name it leave this record out");
+            } else if (counted.insert(name).second) {
+                Use& use = uses_.try_emplace(name, Use{&form, column, 0}).first->second;
+                ++use.count;
+            }
+        }
+    }
+
+    void report()
+    {
+        for (const auto& [name, use] : uses_) {
+            reportlonger(name, use);
+            checktext(*use.first, use.column, name, longestentry, notes_);
+            if (use.count == 1) {
+                notes_.warning(*use.first, use.column,
+                               "the " + std::string(what_) + ' ' + inquotes(name) + " is used only here");
+            }
+        }
+    }
+
+private:
+    struct Use {
+        const ItemForm* first;
+        std::string_view column;
+        int count;
+    };
+
+    // Names of the list that hold this name whole, as "West Africa" does "Africa": one item may fit both.
+    void reportlonger(const std::string& name, const Use& use)
+    {
+        for (const auto& [longer, other] : uses_) {
+            if (longer != name && holdswords(longer, name)) {
+                notes_.warning(*use.first, use.column,
+                               "the " + std::string(what_) + ' ' + inquotes(name) + " stands whole in " +
+                                   inquotes(longer) + ", " + atline(*other.first) +
+                                   "; a record may fit both names, so merge or rename them");
+            }
+        }
+    }
+
+    std::string_view what_;
+    Notes& notes_;
+    std::map<std::string, Use> uses_;
+};
+
+void advisepeople(const Forms& forms, Notes notes)
+{
+    Seen descriptions;
+    Usage usedfactions("faction", notes);
+    Usage usedoccupations("occupation", notes);
+    for (const PersonForm& form : forms.people) {
+        checkitem(form, longestpersonname, notes);
+        if (!form.desc1.empty()) {
+            if (const std::optional<Twins> twins = descriptions.add(form.desc1, form)) {
+                notes.warning(twins->second, "desc1",
+                              twins->first.name + ", " + atline(twins->first) + ", has the same text");
+            }
+        }
+        usedfactions.use(form, {{"faction", form.faction}});
+        usedoccupations.use(form, {{"occupation", form.occupation}});
+    }
+    usedfactions.report();
+    usedoccupations.report();
+}
+
+void adviseevents(const Forms& forms, Notes notes)
+{
+    Usage usedgroups("group", notes);
+    Usage usednations("nation", notes);
+    for (const EventForm& form : forms.events) {
+        checkitem(form, longesteventname, notes);
+        const std::string year = yearin(form.name);
+        if (!year.empty()) {
+            notes.warning(form, "name", year + " looks like a year, which gives the date away");
+        }
+        usedgroups.use(form, {{"group", form.group}});
+        usednations.use(form, {{"nation1", form.nation1}, {"nation2", form.nation2}});
+    }
+    usedgroups.report();
+    usednations.report();
+}
+
+} // namespace
+
+void checktexts(const Forms& forms, Findings& findings)
+{
+    advisepeople(forms, {forms.peoplesource, findings});
+    adviseevents(forms, {forms.eventsource, findings});
+}
+
+} // namespace brindor::authoring
