@@ -1,11 +1,12 @@
 #include "authoring/checks.h"
 
-#include "authoring/limits.h"
 #include "authoring/notes.h"
 #include "authoring/words.h"
 #include "base/text.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <set>
@@ -16,6 +17,12 @@
 namespace brindor::authoring {
 
 namespace {
+
+// What fits on the screens at their default sizes, in characters.
+constexpr std::size_t longestpersonname = 40;
+constexpr std::size_t longesteventname = 60;
+constexpr std::size_t longestdescription = 60;
+constexpr std::size_t longestentry = 30; // of a faction, occupation, group or nation
 
 void checktext(const ItemForm& form, std::string_view column, const std::string& text, std::size_t longest,
                Notes& notes)
@@ -52,6 +59,9 @@ void checkitem(const ItemForm& form, std::size_t longestname, Notes& notes)
     checkdescription(form, "desc2", form.desc2, notes);
 }
 
+constexpr std::size_t fewtold = 3; // names used once that are told one by one
+constexpr std::size_t mostlisted = 5;
+
 // One list of names and the records that use them.
 class Usage {
 public:
@@ -65,7 +75,7 @@ public:
             if (name.empty()) {
                 notes_.warning(form, column, "empty; the questions that name it leave this record out");
             } else if (counted.insert(name).second) {
-                Use& use = uses_.try_emplace(name, Use{&form, column, 0}).first->second;
+                Use& use = uses_.try_emplace(name, Use{name, &form, column, 0, folded(name), wordsof(name)}).first->second;
                 ++use.count;
             }
         }
@@ -73,34 +83,83 @@ public:
 
     void report()
     {
+        std::vector<const Use*> once;
         for (const auto& [name, use] : uses_) {
-            reportlonger(name, use);
             checktext(*use.first, use.column, name, longestentry, notes_);
-            if (use.count == 1) {
-                notes_.warning(*use.first, use.column,
-                               "the " + std::string(what_) + ' ' + inquotes(name) + " is used only here");
+            reportlonger(use);
+            if (const Use* meant = meantby(use)) {
+                tell(use, "stands " + times(use.count) + "; did you mean " + inquotes(meant->name) + "? it stands " +
+                              times(meant->count));
+            } else if (use.count == 1) {
+                once.push_back(&use);
             }
         }
+        reportonce(once);
     }
 
 private:
     struct Use {
+        std::string name;
         const ItemForm* first;
         std::string_view column;
-        int count;
+        std::int64_t count;
+        std::string folded;
+        std::vector<std::string> words;
     };
 
-    // Names of the list that hold this name whole, as "West Africa" does "Africa": one item may fit both.
-    void reportlonger(const std::string& name, const Use& use)
+    static std::string times(std::int64_t count) { return count == 1 ? "once" : numbertext(count) + " times"; }
+
+    void tell(const Use& use, const std::string& what)
     {
-        for (const auto& [longer, other] : uses_) {
-            if (longer != name && holdswords(longer, name)) {
-                notes_.warning(*use.first, use.column,
-                               "the " + std::string(what_) + ' ' + inquotes(name) + " stands whole in " +
-                                   inquotes(longer) + ", " + atline(*other.first) +
-                                   "; a record may fit both names, so merge or rename them");
+        notes_.warning(*use.first, use.column, "the " + std::string(what_) + ' ' + inquotes(use.name) + ' ' + what);
+    }
+
+    // A name that stands much more often and is nearly the same.
+    const Use* meantby(const Use& rare) const
+    {
+        constexpr std::int64_t muchmore = 3;
+        constexpr std::size_t shortname = 5; // Iran and Iraq are two names
+        constexpr std::size_t longname = 8;
+        const std::size_t slips = rare.folded.size() >= longname ? 2 : rare.folded.size() >= shortname ? 1 : 0;
+        for (const auto& [name, use] : uses_) {
+            const bool samebutcase = use.folded == rare.folded && use.count >= rare.count;
+            if (&use != &rare && (samebutcase || (use.count >= muchmore * rare.count &&
+                                                  misspellings(use.folded, rare.folded) <= slips))) {
+                return &use;
             }
         }
+        return nullptr;
+    }
+
+    // Names of the list that hold this name whole, as "West Africa" does "Africa": one item may fit both.
+    void reportlonger(const Use& use)
+    {
+        for (const auto& [longer, other] : uses_) {
+            if (other.words.size() > use.words.size() && holdswords(other.words, use.words)) {
+                tell(use, "stands whole in " + inquotes(longer) + ", " + atline(*other.first) +
+                              "; a record may fit both names, so merge or rename them");
+            }
+        }
+    }
+
+    void reportonce(const std::vector<const Use*>& once)
+    {
+        if (once.size() <= fewtold) {
+            for (const Use* use : once) {
+                tell(*use, "is used only here");
+            }
+            return;
+        }
+        std::string names;
+        for (std::size_t i = 0; i < std::min(once.size(), mostlisted); ++i) {
+            names += (i == 0 ? "" : ", ") + once[i]->name;
+        }
+        const std::string more = once.size() > mostlisted
+                                     ? " and " + numbertext(static_cast<std::int64_t>(once.size() - mostlisted)) + " more"
+                                     : "";
+        notes_.add(Severity::warning, 1,
+                   numbertext(static_cast<std::int64_t>(once.size())) + ' ' + std::string(what_) + "s are used only once, " +
+                       names + more + "; such a name is soon known by heart");
     }
 
     std::string_view what_;

@@ -1,8 +1,10 @@
 #include "authoring/checks.h"
 
 #include "authoring/notes.h"
-#include "authoring/playable.h"
 #include "base/text.h"
+#include "questions/catalogue.h"
+#include "questions/selection.h"
+#include "questions/types.h"
 #include "timeline/timeline.h"
 
 #include <cstddef>
@@ -48,6 +50,28 @@ void checkindex(const ItemForm& form, std::string_view column, std::int16_t inde
     }
 }
 
+enum class ItemsOf { people, events };
+
+// A question takes five items that differ in what it shows.
+void checkplayable(std::size_t count, ItemsOf family, Notes& notes)
+{
+    const std::string what = family == ItemsOf::people ? "people" : "events";
+    if (count < static_cast<std::size_t>(itemsasked)) {
+        notes.add(Severity::error, 1,
+                  "only " + numbertext(static_cast<std::int64_t>(count)) + ' ' + what + "; a question takes five, so give "
+                  "five at least");
+        return;
+    }
+    for (std::int16_t type = 1; type <= lasttype; ++type) {
+        const bool ofpeople = kindof(type).family == Family::people;
+        if (ofpeople == (family == ItemsOf::people) && !canfill(type)) {
+            notes.add(Severity::error, 1,
+                      "the questions " + inquotes(kindof(type).name) + " cannot be asked; they need five " + what +
+                          " that differ in what the question shows");
+        }
+    }
+}
+
 } // namespace
 
 void checkrecords(const Forms& forms, Findings& findings)
@@ -60,12 +84,8 @@ void checktimeline(const Forms& forms, Findings& findings)
 {
     Notes peoplenotes(forms.peoplesource, findings);
     Notes eventnotes(forms.eventsource, findings);
-    for (const UnaskedKind& kind : unaskedkinds()) {
-        (kind.ofpeople ? peoplenotes : eventnotes)
-            .add(Severity::error, 1,
-                 "the questions " + inquotes(kind.name) + " cannot be asked; they need five " +
-                     (kind.ofpeople ? "people" : "events") + " that differ in what the question shows");
-    }
+    checkplayable(forms.people.size(), ItemsOf::people, peoplenotes);
+    checkplayable(forms.events.size(), ItemsOf::events, eventnotes);
     for (std::size_t i = 0; i < forms.people.size(); ++i) {
         const PersonForm& form = forms.people[i];
         const PersonRec& record = people[i];

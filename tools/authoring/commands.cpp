@@ -4,16 +4,20 @@
 #include "authoring/conversion.h"
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
+#include "authoring/shell.h"
 #include "authoring/timelinetext.h"
-#include "authoring/words.h"
+#include "authoring/writing.h"
 #include "base/files.h"
+#include "base/picturename.h"
 #include "base/text.h"
 #include "timeline/reader.h"
 
-#include <array>
+#include <algorithm>
 #include <cctype>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 namespace brindor::authoring {
@@ -23,18 +27,6 @@ namespace {
 void fail(Findings& findings, const std::string& file, const std::string& what)
 {
     findings.push_back({Severity::error, file, 0, what});
-}
-
-void checkforpictures(const Forms& forms, Findings& findings)
-{
-    for (const EventForm& form : forms.events) {
-        if (form.picture.empty() && !hasplace(form)) {
-            findings.push_back({Severity::error, forms.eventsource.file, form.line,
-                                forms.eventsource.field("place") +
-                                    ": the event has no picture; give place, latitude and longitude for a map, or a "
-                                    "picture of your own"});
-        }
-    }
 }
 
 // The reader's failure text names the file and the line in its own form, "Modern.bd3, line 12: ...".
@@ -61,49 +53,17 @@ std::optional<Forms> readfile(const std::string& file, Findings& findings)
     return timelineforms(file, lines);
 }
 
-} // namespace
-
-Findings maketimeline(const std::string& folder, const std::string& file)
+// The records of a folder's spreadsheets, examined whole and put into the Timeline.
+Forms examined(const std::string& folder, const std::string& prefix, Findings& findings)
 {
-    Findings findings;
-    Forms forms = readfolder(folder, findings);
-    checkrecords(forms, findings);
-    sortforms(forms);
-    const std::array<std::string, 2> places = {folder, folderof(file)};
-    const std::vector<EventPicture> pictures = findpictures(forms, mapprefix(file), places, false, findings);
-    sortfindings(findings);
-    if (haserrors(findings)) {
-        return findings;
-    }
-    Result<Done> done = puttimeline(forms, pictures);
-    if (done) {
-        done = copypictures(pictures, folder, folderof(file));
-    }
-    if (!done) {
-        fail(findings, folder, done.reason);
-        return findings;
-    }
-    const Result<Done> written = replacefile(file, timelinetext());
-    if (!written) {
-        fail(findings, file, "cannot be written: " + written.reason);
-    }
-    return findings;
-}
-
-Findings checkfolder(const std::string& folder)
-{
-    Findings findings;
     Forms forms = readfolder(folder, findings);
     const bool complete = !haserrors(findings);
     checkrecords(forms, findings);
-    checkforpictures(forms, findings);
     sortforms(forms);
-    const std::vector<EventPicture> pictures =
-        findpictures(forms, mapprefix(folder), std::array{folder}, true, findings);
-    const Result<Done> put = puttimeline(forms, pictures);
-    if (!put) {
+    const std::vector<EventPicture> pictures = findpictures(forms, prefix, folder, findings);
+    if (const Result<Done> put = puttimeline(forms, pictures); !put) {
         fail(findings, folder, put.reason);
-        return findings;
+        return forms;
     }
     if (complete) { // records left out would make a type look as if it could not be filled
         checktimeline(forms, findings);
@@ -112,16 +72,76 @@ Findings checkfolder(const std::string& folder)
     checkdates(forms, findings);
     checkplaces(forms, findings);
     sortfindings(findings);
+    return forms;
+}
+
+// "40 people, 40 events"
+std::string counts(const Forms& forms)
+{
+    return counttext(forms.people.size(), "person", "people") + ", " + counttext(forms.events.size(), "event", "events");
+}
+
+// The maps that are not there yet, with the command that draws them.
+std::string undrawn(const Forms& forms, const std::string& prefix, const std::string& outfolder)
+{
+    const std::vector<std::string> names = picturenames(forms.events, prefix);
+    std::int64_t count = 0;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        count += isdrawn(forms.events[i]) && !isregularfile(inside(outfolder, names[i])) ? 1 : 0;
+    }
+    if (count == 0) {
+        return {};
+    }
+    return "; " + numbertext(count) + (count == 1 ? " map is" : " maps are") + " not drawn yet, which mapmaker maps does";
+}
+
+constexpr std::string_view examplepeople =
+    "Zheng He,1371,ca.,1433,ca.,Led treasure fleets across the Indian Ocean.,Brought a giraffe home.,China,Explorer\n"
+    "Gerardus Mercator,1512,,1594,,Drew a chart for steady courses.,,Flanders,Mapmaker\n"
+    "Sacagawea,1788,ca.,1812,,Guided two captains to the western sea.,,Shoshone,Explorer\n";
+constexpr std::string_view exampleevents =
+    "Fall of Constantinople,1453,,,,Great cannon broke the land walls.,,War,Ottoman Empire,Byzantium,Constantinople,"
+    "41.01,28.98,\n"
+    "First landfall of Columbus,1492,,,,Three ships from Palos came to an island.,,Exploration,Spain,,San Salvador,"
+    "24.05,-74.50,\n"
+    "Portrait of Mona Lisa,1503,ca.,1519,ca.,The sitter of a long work in Florence smiles.,,Art,Italy,,Florence,43.77,"
+    "11.26,\n";
+
+} // namespace
+
+Report maketimeline(const std::string& folder, const std::string& file, bool overwrite)
+{
+    Report report;
+    if (!istimelinefile(file)) {
+        fail(report.findings, file, "is no name for a timeline; it must end in .bd3, as Modern.bd3");
+        return report;
+    }
+    const std::string prefix = mapprefix(file);
+    const Forms forms = examined(folder, prefix, report.findings);
+    Writing writing(overwrite, report.findings);
+    takepictures(forms.events, folder, file, writing, report.findings);
+    if (!haserrors(report.findings)) {
+        writing.add(file, timelinetext());
+    }
+    if (writing.commit()) {
+        report.said = file.substr(file.find_last_of('/') + 1) + ": " + counts(forms) + undrawn(forms, prefix, folderof(file));
+    }
+    return report;
+}
+
+Findings checkfolder(const std::string& folder)
+{
+    Findings findings;
+    examined(folder, mapprefix(titleof(folder)), findings);
     return findings;
 }
 
 Findings checkfile(const std::string& file)
 {
     Findings findings;
-    const std::optional<Forms> forms = readfile(file, findings);
-    if (forms) {
+    if (const std::optional<Forms> forms = readfile(file, findings)) {
         checkrecords(*forms, findings);
-        findpictures(*forms, mapprefix(file), std::array{folderof(file)}, true, findings);
+        checkpictures(*forms, file, findings);
         checktimeline(*forms, findings);
         checktexts(*forms, findings);
         checkdates(*forms, findings);
@@ -130,9 +150,44 @@ Findings checkfile(const std::string& file)
     return findings;
 }
 
-bool istimelinefile(const std::string& target)
+Report exporttimeline(const std::string& file, const std::string& folder, bool overwrite)
 {
-    return folded(target).ends_with(".bd3");
+    Report report;
+    std::optional<Forms> forms = readfile(file, report.findings);
+    if (!forms) {
+        return report;
+    }
+    Writing writing(overwrite, report.findings);
+    takeback(*forms, file, folder, writing, report.findings);
+    writing.add(folder, std::string(peoplefile), peopletext(*forms));
+    writing.add(folder, std::string(eventsfile), eventstext(*forms));
+    if (writing.commit()) {
+        report.said = folder + ": " + counts(*forms);
+    }
+    return report;
+}
+
+Report newtimeline(const std::string& folder, char separator)
+{
+    const auto separated = [separator](std::string text) {
+        std::replace(text.begin(), text.end(), ',', separator); // the examples hold no comma of their own
+        return text;
+    };
+    Report report;
+    Writing writing(false, report.findings);
+    Forms forms;
+    writing.add(folder, std::string(peoplefile), separated(peopletext(forms) + std::string(examplepeople)));
+    writing.add(folder, std::string(eventsfile), separated(eventstext(forms) + std::string(exampleevents)));
+    if (writing.commit()) {
+        report.said = folder + ": people.csv and events.csv with three example rows each; write your own rows, then "
+                               "timelinemaker play " + inshell(folder);
+    }
+    return report;
+}
+
+bool istimelinefile(std::string_view target)
+{
+    return endsin(target, "bd3");
 }
 
 bool loadtarget(const std::string& target, Findings& findings)

@@ -75,15 +75,14 @@ void checkreigns(const Forms& forms, Notes& notes)
     const std::int64_t most = allearly ? mostearlyreigns : mostreigns;
     const std::string have =
         numbertext(reigns) + " of " + numbertext(count) + (reigns == 1 ? " people has" : " people have") + " a reign";
-    if (reigns * 100 > most * count) {
-        notes.add(Severity::warning, 1,
-                  have + " for a date; at most " + numbertext(most) +
-                      " of 100 should, since sorting takes it for a birth: give birth and death where they are known");
-    }
     if (reigns > 0 && reigns < fewestreigns) {
         notes.add(Severity::warning, 1,
                   have + " for a date, so \"(reign)\" gives answers away; either none should, or at least " +
                       numbertext(fewestreigns));
+    } else if (reigns * 100 > most * count) {
+        notes.add(Severity::warning, 1,
+                  have + " for a date; at most " + numbertext(most) +
+                      " of 100 should, since sorting takes it for a birth: give birth and death where they are known");
     }
 }
 

@@ -30,6 +30,11 @@ std::string Source::field(std::string_view column) const
     return "column " + numbertext(found - headings.begin() + 1) + " (" + std::string(column) + ')';
 }
 
+std::string counttext(std::size_t count, std::string_view one, std::string_view more)
+{
+    return numbertext(static_cast<std::int64_t>(count)) + ' ' + std::string(count == 1 ? one : more);
+}
+
 void sortforms(Forms& forms)
 {
     std::stable_sort(forms.people.begin(), forms.people.end(), earlier);

@@ -100,6 +100,9 @@ struct Forms {
     std::vector<EventForm> events;
 };
 
+// "1 person", "40 people"
+std::string counttext(std::size_t count, std::string_view one, std::string_view more);
+
 // Puts the records into the order of the timeline file: by first date, second date, name.
 void sortforms(Forms& forms);
 

@@ -2,6 +2,7 @@
 
 #include "authoring/commands.h"
 #include "authoring/folder.h"
+#include "authoring/table.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"

@@ -1,19 +1,15 @@
 #include "authoring/timelinetext.h"
 
-#include "authoring/csvfile.h"
 #include "base/text.h"
 #include "timeline/timeline.h"
 
 #include <cstddef>
 #include <initializer_list>
-#include <span>
 #include <vector>
 
 namespace brindor::authoring {
 
 namespace {
-
-constexpr std::string_view byteordermark = "\xEF\xBB\xBF";
 
 std::string numberline(std::initializer_list<std::int16_t> numbers)
 {
@@ -43,36 +39,6 @@ std::string section(const std::string& head, const Catalogue& catalogue)
     return text;
 }
 
-// As a date stands in the file: an empty second date is the first one again.
-std::vector<std::string> itemfields(const ItemForm& form)
-{
-    const auto kind = [](std::int16_t number) {
-        const bool proper = number >= 0 && static_cast<std::size_t>(number) < kindwords.size();
-        return proper ? std::string(kindwords[static_cast<std::size_t>(number)]) : numbertext(number);
-    };
-    const bool single = form.date2 == form.date1 && form.datetype2 == form.datetype1;
-    return {form.name,
-            numbertext(form.date1),
-            kind(form.datetype1),
-            single ? "" : numbertext(form.date2),
-            single ? "" : kind(form.datetype2),
-            form.desc1,
-            form.desc2};
-}
-
-std::string csvtext(std::span<const Column> columns, const std::vector<std::vector<std::string>>& rows)
-{
-    std::vector<std::string> headings;
-    for (const Column& column : columns) {
-        headings.emplace_back(column.name);
-    }
-    std::string text = std::string(byteordermark) + csvline(headings);
-    for (const std::vector<std::string>& row : rows) {
-        text += csvline(row);
-    }
-    return text;
-}
-
 } // namespace
 
 std::string timelinetext()
@@ -90,28 +56,6 @@ std::string timelinetext()
     }
     return text + section("=== FACTIONS", factions) + section("=== OCCUPATIONS", occupations) +
            section("=== GROUPS", groups) + section("=== NATIONS", nations);
-}
-
-std::string peopletext(const Forms& forms)
-{
-    std::vector<std::vector<std::string>> rows;
-    for (const PersonForm& form : forms.people) {
-        rows.push_back(itemfields(form));
-        rows.back().insert(rows.back().end(), {form.faction, form.occupation});
-    }
-    return csvtext(std::span(peoplecolumns).first(writtenpeoplecolumns), rows);
-}
-
-std::string eventstext(const Forms& forms)
-{
-    std::vector<std::vector<std::string>> rows;
-    for (const EventForm& form : forms.events) {
-        rows.push_back(itemfields(form));
-        rows.back().insert(
-            rows.back().end(),
-            {form.group, form.nation1, form.nation2 == form.nation1 ? "" : form.nation2, "", "", "", form.picture});
-    }
-    return csvtext(std::span(eventcolumns).first(writteneventcolumns), rows);
 }
 
 } // namespace brindor::authoring

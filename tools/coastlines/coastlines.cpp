@@ -1,7 +1,7 @@
 #include "coastlines/coastlines.h"
 
 #include "base/text.h"
-#include "coastlines/landtext.h"
+#include "coastlines/builtin.h"
 
 #include <algorithm>
 #include <cmath>
@@ -105,7 +105,7 @@ Result<Coastlines> readcoastlines(std::string_view text)
 
 Result<Coastlines> worldcoastlines()
 {
-    return readcoastlines(landtext);
+    return readcoastlines(builtin("land.txt"));
 }
 
 // Counts how often the way from the position to the north pole crosses the ring. A point right north of the position
