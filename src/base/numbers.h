@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 // The named ways in which a number gets into 16 bits. Nothing else narrows a number.
 namespace brindor {
@@ -9,8 +10,9 @@ namespace brindor {
 inline constexpr std::int16_t lowest16 = -32768;
 inline constexpr std::int16_t highest16 = 32767;
 
-// Nothing where the number lies outside 16 bits.
+// Nothing where the number lies outside 16 bits; a failure text then says that it "is outside -32768 to 32767".
 std::optional<std::int16_t> toint16(std::int64_t number);
+inline constexpr std::string_view outside16 = "is outside -32768 to 32767";
 
 // The nearest whole number, a half to the even neighbour.
 double roundtoeven(double number);

@@ -1,5 +1,6 @@
 #include "base/text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -242,6 +243,15 @@ std::string decimaltext(double number)
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number == 0 ? 0.0 : number,
                                       std::chars_format::general, 15);
     return {buffer.data(), result.ptr};
+}
+
+std::string_view takevalue(std::string_view& line)
+{
+    constexpr std::string_view separators = ", \t";
+    line.remove_prefix(std::min(line.find_first_not_of(separators), line.size()));
+    const std::string_view value = line.substr(0, line.find_first_of(separators));
+    line.remove_prefix(value.size());
+    return value;
 }
 
 std::string_view withoutmark(std::string_view text)

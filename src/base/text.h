@@ -41,6 +41,9 @@ double textvalue(std::string_view text);
 // A number in decimal with up to 15 significant digits and no trailing zeros: 12.50 becomes "12.5".
 std::string decimaltext(double number);
 
+// Takes the next value off a line: values stand between commas, blanks and tabs. Empty where none is left.
+std::string_view takevalue(std::string_view& line);
+
 // The part of `text` behind a UTF-8 byte order mark, or all of it.
 std::string_view withoutmark(std::string_view text);
 

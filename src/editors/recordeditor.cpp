@@ -152,8 +152,8 @@ template <class Family>
 bool RecordEditor<Family>::addrecord()
 {
     const std::int16_t added = count();
-    if (added == highest16) {
-        messagebox("The timeline is full: it holds " + numbertext(highest16) +
+    if (added == mostrecords) {
+        messagebox("The timeline is full: it holds " + numbertext(mostrecords) +
                    " records of this kind, the most that "
                    "it can. Answer No to go on without the new one.");
         return false;

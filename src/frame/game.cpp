@@ -6,7 +6,7 @@
 #include "frame/services/log.h"
 #include "frame/services/score.h"
 #include "frame/services/settings.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/types.h"
 #include "quiz/mchoice.h"

@@ -17,7 +17,7 @@ void playgame();
 // can fill; there must be one. Ends early when the desktop wants the program to end.
 void playround(std::int16_t round);
 
-// Asks one question of a type from 1 to 13 on its screen; nothing for any other type.
+// Asks one question of a type from 1 to lasttype on its screen; nothing for any other type.
 void showquestion(std::int16_t type);
 
 } // namespace brindor

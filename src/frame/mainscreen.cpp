@@ -1,6 +1,7 @@
 #include "frame/mainscreen.h"
 
 #include "base/files.h"
+#include "base/program.h"
 #include "base/random.h"
 #include "editors/bdqedit.h"
 #include "frame/game.h"
@@ -8,7 +9,7 @@
 #include "frame/services/log.h"
 #include "frame/services/placement.h"
 #include "frame/services/settings.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "setup/curstats.h"
 #include "setup/setup.h"
 #include "timeline/reader.h"

@@ -1,14 +1,10 @@
 #pragma once
 
-#include "frame/services/title.h"
 #include "toolkit/controls.h"
 
 #include <string>
-#include <string_view>
 
 namespace brindor {
-
-inline constexpr std::string_view versiontext = "1.03";
 
 // The program's first and last screen. Its load is the start-up; closing it writes the settings.
 struct MainScreen : toolkit::Screen {

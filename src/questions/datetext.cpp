@@ -1,57 +1,67 @@
 #include "questions/datetext.h"
 
 #include "base/text.h"
-#include "questions/catalogue.h"
-#include "timeline/timeline.h"
+#include "questions/question.h"
 
 namespace brindor {
 
 namespace {
 
-std::string onedate(std::int16_t kind, std::int16_t date)
+void adddate(std::string& text, std::int16_t kind, std::int16_t date)
 {
     switch (kind) {
     case known:
-        return numbertext(date);
+        break;
     case approx:
-        return "ca. " + numbertext(date);
+        text += "ca. ";
+        break;
     case reign:
-        return "(reign) " + numbertext(date);
+        text += "(reign) ";
+        break;
     default:
-        return {};
+        return;
     }
-}
-
-const Dates& datesof(std::int16_t item)
-{
-    if (isperson != 0) {
-        return personrec(item);
-    }
-    return eventrec(item);
+    text += numbertext(date);
 }
 
 } // namespace
 
-std::string datetext(std::int16_t item, std::string_view word)
+void adddates(std::string& text, const Dates& dates, std::string_view word)
 {
-    const Dates& d = datesof(item);
-    std::string text = onedate(d.datetype1, d.date1);
-    if (d.date2 != d.date1) {
+    adddate(text, dates.datetype1, dates.date1);
+    if (dates.date2 != dates.date1) {
         text += ' ';
         text += word;
         text += ' ';
-        text += onedate(d.datetype2, d.date2);
+        adddate(text, dates.datetype2, dates.date2);
     }
+}
+
+void addnations(std::string& text, const EventRec& event)
+{
+    text += entryname(nations, event.nation1);
+    if (event.nation1 != event.nation2) {
+        text += ", ";
+        text += entryname(nations, event.nation2);
+    }
+}
+
+std::string datetext(const Dates& dates, std::string_view word)
+{
+    std::string text;
+    adddates(text, dates, word);
     return text;
+}
+
+std::string datetext(std::int16_t item, std::string_view word)
+{
+    return isperson != 0 ? datetext(personrec(item), word) : datetext(eventrec(item), word);
 }
 
 std::string nationtext(std::int16_t item)
 {
-    const EventRec& event = eventrec(item);
-    std::string text = entryname(nations, event.nation1);
-    if (event.nation1 != event.nation2) {
-        text += ", " + entryname(nations, event.nation2);
-    }
+    std::string text;
+    addnations(text, eventrec(item));
     return text;
 }
 

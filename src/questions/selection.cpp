@@ -3,7 +3,8 @@
 #include "base/numbers.h"
 #include "base/random.h"
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/marks.h"
+#include "questions/question.h"
 #include "questions/texts.h"
 #include "questions/types.h"
 #include "timeline/timeline.h"
@@ -21,19 +22,20 @@ namespace brindor {
 namespace {
 
 constexpr int triesperlevel = 1001;
-constexpr std::int16_t askedmark = 10; // for slot 0
-constexpr std::int16_t shownmark = 1;  // for the others
 
 bool playable(std::int16_t type)
 {
     return type >= 1 && type <= lasttype;
 }
 
-// Sets isperson for a type and gives the number of items in its family.
-std::int16_t enterfamily(std::int16_t type)
+bool ofpeople(std::int16_t type)
 {
-    isperson = kindof(type).family == Family::people ? 1 : 0;
-    return isperson != 0 ? peoplecount() : eventcount();
+    return kindof(type).of == ItemKind::person;
+}
+
+std::int16_t itemcount(std::int16_t type)
+{
+    return ofpeople(type) ? peoplecount() : eventcount();
 }
 
 bool isblank(const std::string& text)
@@ -114,7 +116,8 @@ std::int16_t getitem(std::int16_t slot)
         toolkit::messagebox("No action for " + numbertext(qtype));
         return 0;
     }
-    const std::int16_t count = enterfamily(qtype);
+    isperson = ofpeople(qtype) ? 1 : 0;
+    const std::int16_t count = itemcount(qtype);
     const std::int16_t item = count > 0 ? blinddraw(count, textsbefore(slot)) : std::int16_t{-1};
     if (item == -1) {
         return 0;
@@ -129,8 +132,7 @@ bool canfill(std::int16_t type)
     if (!playable(type)) {
         return false;
     }
-    const double before = isperson;
-    const std::int16_t count = enterfamily(type);
+    const std::int16_t count = itemcount(type);
     std::set<std::string> texts;
     for (std::int16_t item = 0; item < count && texts.size() < itemsasked; ++item) {
         std::string text = getpstr(item, type);
@@ -138,7 +140,6 @@ bool canfill(std::int16_t type)
             texts.insert(std::move(text));
         }
     }
-    isperson = before;
     return texts.size() >= itemsasked;
 }
 

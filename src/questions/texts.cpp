@@ -1,7 +1,7 @@
 #include "questions/texts.h"
 
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/sortvalues.h"
 #include "questions/types.h"
 #include "toolkit/operations.h"
@@ -9,11 +9,6 @@
 namespace brindor {
 
 namespace {
-
-std::string called(ItemText text, std::int16_t item)
-{
-    return text != nullptr ? text(item) : std::string();
-}
 
 std::string sorted(std::int16_t item)
 {
@@ -25,6 +20,7 @@ std::string sorted(std::int16_t item)
 std::string paramname(std::int16_t kind, std::int16_t item, std::int16_t extra)
 {
     const QuestionKind& type = kindof(qtype);
+    std::string text;
     switch (kind) {
     case sortprompt:
         return "Sort " + std::string(type.name) + " with earliest date on top";
@@ -33,22 +29,26 @@ std::string paramname(std::int16_t kind, std::int16_t item, std::int16_t extra)
     case sortline:
         return sorted(item) + " > " + sorted(extra);
     case itemtext:
-        return called(type.shown, item);
+        addpieces(text, type.shown, item);
+        return text;
     case questionline:
-        return std::string(type.question) + called(type.asked, item);
+        text = type.question;
+        addpieces(text, type.asked, item);
+        return text;
     default:
-        return {};
+        return text;
     }
 }
 
 std::string getpstr(std::int16_t item, std::int16_t type)
 {
-    const ItemText compared = kindof(type).compared;
-    if (compared == nullptr) {
+    const TextPieces& compared = kindof(type).compared;
+    if (compared.front() == nullptr) {
         toolkit::messagebox("No getpstr for " + numbertext(type));
-        return {};
     }
-    return compared(item);
+    std::string text;
+    addpieces(text, compared, item);
+    return text;
 }
 
 } // namespace brindor

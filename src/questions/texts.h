@@ -17,7 +17,7 @@ enum ParamKind : std::int16_t {
 // What the player sees. A kind outside 1 to 5, or a type that has no such text, gives an empty text.
 std::string paramname(std::int16_t kind, std::int16_t item, std::int16_t extra);
 
-// The text by which blank and equal items are refused; for type 0 the item's name. A type outside 0 to 13 shows a
+// The text by which blank and equal items are refused; for type 0 the item's name. A type outside the table shows a
 // message and gives an empty text.
 std::string getpstr(std::int16_t item, std::int16_t type);
 

@@ -1,119 +1,145 @@
 #include "questions/types.h"
 
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/datetext.h"
-#include "timeline/timeline.h"
+#include "timeline/families.h"
 
-#include <array>
+#include <iterator>
 
 namespace brindor {
 
 namespace {
 
-std::string name(std::int16_t item)
+template <class Family>
+void name(std::string& text, std::int16_t item)
 {
-    return isperson != 0 ? personrec(item).name : eventrec(item).name;
+    text += Family::record(item).name;
 }
 
-std::string descriptions(const ItemRec& record)
+template <class Family>
+void desc1(std::string& text, std::int16_t item)
 {
-    return record.desc1 + ' ' + record.desc2;
+    text += Family::record(item).desc1;
 }
 
-std::string faction(std::int16_t item)
+template <class Family>
+void desc2(std::string& text, std::int16_t item)
 {
-    return entryname(factions, personrec(item).faction);
+    text += Family::record(item).desc2;
 }
 
-std::string occupation(std::int16_t item)
+template <class Family>
+void date1(std::string& text, std::int16_t item)
 {
-    return entryname(occupations, personrec(item).occupation);
+    text += numbertext(Family::record(item).date1);
 }
 
-std::string group(std::int16_t item)
+template <class Family>
+void datesto(std::string& text, std::int16_t item)
 {
-    return entryname(groups, eventrec(item).group);
+    adddates(text, Family::record(item), "to");
 }
 
-std::string date1(std::int16_t item)
+template <class Family>
+void datesdash(std::string& text, std::int16_t item)
 {
-    return numbertext(personrec(item).date1);
+    adddates(text, Family::record(item), "-");
 }
 
-std::string dateshown(std::int16_t item)
+void faction(std::string& text, std::int16_t item)
 {
-    return datetext(item, "to");
+    text += entryname(factions, personrec(item).faction);
 }
 
-std::string datecompared(std::int16_t item)
+void occupation(std::string& text, std::int16_t item)
 {
-    return datetext(item, "-");
+    text += entryname(occupations, personrec(item).occupation);
 }
 
-std::string personname(std::int16_t item)
+void group(std::string& text, std::int16_t item)
 {
-    return personrec(item).name;
+    text += entryname(groups, eventrec(item).group);
 }
 
-std::string eventname(std::int16_t item)
+void nation(std::string& text, std::int16_t item)
 {
-    return eventrec(item).name;
+    addnations(text, eventrec(item));
 }
 
-std::string factionoccupation(std::int16_t item)
+// What lies between two pieces.
+void blank(std::string& text, std::int16_t)
 {
-    return faction(item) + ' ' + occupation(item);
+    text += ' ';
 }
 
-std::string nationgroup(std::int16_t item)
+void twoblanks(std::string& text, std::int16_t)
 {
-    return nationtext(item) + "  " + group(item);
+    text += "  ";
 }
+
+void dashes(std::string& text, std::int16_t)
+{
+    text += " -- ";
+}
+
+// The one text that rests on the draw in progress: a bare name has no family of its own.
+void nameofeither(std::string& text, std::int16_t item)
+{
+    (isperson != 0 ? name<PersonFamily> : name<EventFamily>)(text, item);
+}
+
+using P = PersonFamily;
+using E = EventFamily;
+using enum ItemKind;
+using enum QuizScreen;
 
 // What is shown and what is compared differ on purpose: the word between two dates, desc1 alone for "Who was?",
 // the bare first date for factions and occupations with dates, the name left out of "What happened on?".
-const std::array<QuestionKind, 14> kinds = {{
-    {"Name", Family::either, QuizScreen::none, "", nullptr, nullptr, name},
-    {"Dates for person", Family::people, QuizScreen::mchoice, "Which dates match ", personname, dateshown,
-     datecompared},
-    {"Who was?", Family::people, QuizScreen::mchoice, "Who was ", personname,
-     [](std::int16_t item) { return descriptions(personrec(item)); },
-     [](std::int16_t item) { return personrec(item).desc1; }},
-    {"Faction, date", Family::people, QuizScreen::qmatch, "Match people with faction and date(s)", nullptr,
-     [](std::int16_t item) { return faction(item) + ' ' + datetext(item, "-"); },
-     [](std::int16_t item) { return faction(item) + ' ' + date1(item); }},
-    {"Faction, occupation", Family::people, QuizScreen::qmatch, "Match people with faction and occupation", nullptr,
-     factionoccupation, factionoccupation},
-    {"Occupation, date", Family::people, QuizScreen::qmatch, "Match people with occupation and date(s)", nullptr,
-     [](std::int16_t item) { return occupation(item) + ' ' + datetext(item, "-"); },
-     [](std::int16_t item) { return occupation(item) + ' ' + date1(item); }},
-    {"People by date", Family::people, QuizScreen::qsort, "", nullptr, nullptr, personname},
-    {"Dates for event", Family::events, QuizScreen::mchoice, "Which date(s) match ", eventname, dateshown,
-     datecompared},
-    {"What happened on?", Family::events, QuizScreen::mchoice, "What happened in ", dateshown,
-     [](std::int16_t item) { return eventname(item) + " -- " + descriptions(eventrec(item)); },
-     [](std::int16_t item) { return descriptions(eventrec(item)); }},
-    {"Nation, date", Family::events, QuizScreen::qmatch, "Match events with nation(s) and date(s)", nullptr,
-     [](std::int16_t item) { return nationtext(item) + "  " + dateshown(item); },
-     [](std::int16_t item) { return nationtext(item) + "  " + datecompared(item); }},
-    {"Nation, group", Family::events, QuizScreen::qmatch, "Match events with nation(s) and group", nullptr, nationgroup,
-     nationgroup},
-    {"Group, date", Family::events, QuizScreen::qmatch, "Match events with group(s) and date(s)", nullptr,
-     [](std::int16_t item) { return group(item) + "  " + dateshown(item); },
-     [](std::int16_t item) { return group(item) + "  " + datecompared(item); }},
-    {"Which nations were involved?", Family::events, QuizScreen::mchoice, "Which nation(s) involved with ", eventname,
-     nationtext, nationtext},
-    {"Events by date", Family::events, QuizScreen::qsort, "", nullptr, nullptr, eventname},
-}};
+constexpr QuestionKind kinds[] = {
+    {"Name", any, none, "", {}, {}, {nameofeither}},
+
+    {"Dates for person", person, mchoice, "Which dates match ", {name<P>}, {datesto<P>}, {datesdash<P>}, true},
+    {"Who was?", person, mchoice, "Who was ", {name<P>}, {desc1<P>, blank, desc2<P>}, {desc1<P>}},
+    {"Faction, date", person, qmatch, "Match people with faction and date(s)", {}, //
+     {faction, blank, datesdash<P>}, {faction, blank, date1<P>}},
+    {"Faction, occupation", person, qmatch, "Match people with faction and occupation", {}, //
+     {faction, blank, occupation}, {faction, blank, occupation}},
+    {"Occupation, date", person, qmatch, "Match people with occupation and date(s)", {}, //
+     {occupation, blank, datesdash<P>}, {occupation, blank, date1<P>}},
+    {"People by date", person, qsort, "", {}, {}, {name<P>}, true},
+
+    {"Dates for event", event, mchoice, "Which date(s) match ", {name<E>}, {datesto<E>}, {datesdash<E>}, true},
+    {"What happened on?", event, mchoice, "What happened in ", {datesto<E>}, //
+     {name<E>, dashes, desc1<E>, blank, desc2<E>}, {desc1<E>, blank, desc2<E>}},
+    {"Nation, date", event, qmatch, "Match events with nation(s) and date(s)", {}, //
+     {nation, twoblanks, datesto<E>}, {nation, twoblanks, datesdash<E>}},
+    {"Nation, group", event, qmatch, "Match events with nation(s) and group", {}, //
+     {nation, twoblanks, group}, {nation, twoblanks, group}},
+    {"Group, date", event, qmatch, "Match events with group(s) and date(s)", {}, //
+     {group, twoblanks, datesto<E>}, {group, twoblanks, datesdash<E>}},
+    {"Which nations were involved?", event, mchoice, "Which nation(s) involved with ", {name<E>}, {nation}, {nation}},
+    {"Events by date", event, qsort, "", {}, {}, {name<E>}, true},
+};
+static_assert(std::size(kinds) == lasttype + 1, "one row a type");
 
 } // namespace
 
 const QuestionKind& kindof(std::int16_t type)
 {
-    static const QuestionKind none;
-    const bool inside = type >= 0 && static_cast<std::size_t>(type) < kinds.size();
-    return inside ? kinds[static_cast<std::size_t>(type)] : none;
+    static constexpr QuestionKind norow;
+    const bool inside = type >= 0 && type <= lasttype;
+    return inside ? kinds[type] : norow;
+}
+
+void addpieces(std::string& text, const TextPieces& pieces, std::int16_t item)
+{
+    for (const TextPiece piece : pieces) {
+        if (piece == nullptr) {
+            return;
+        }
+        piece(text, item);
+    }
 }
 
 } // namespace brindor

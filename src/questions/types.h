@@ -1,28 +1,37 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-// What each type of question is: one row a type. A new kind of question is a new row, with its texts.
+// What each type of question is: one row a type. A new kind of question is a new row, and lasttype one higher.
 namespace brindor {
 
-enum class Family { either, people, events };
+enum class ItemKind { any, person, event };
 enum class QuizScreen { none, mchoice, qsort, qmatch };
 
-using ItemText = std::string (*)(std::int16_t item);
+// A piece of a text: adds what it says of an item to `text`.
+using TextPiece = void (*)(std::string& text, std::int16_t item);
+
+// The pieces of a text in their order, nullptr behind the last; none at all where a type has no such text.
+using TextPieces = std::array<TextPiece, 5>;
 
 struct QuestionKind {
     std::string_view name;
-    Family family = Family::either;
+    ItemKind of = ItemKind::any; // what its items are
     QuizScreen screen = QuizScreen::none;
-    std::string_view question;   // the question line
-    ItemText asked = nullptr;    // what follows it of the item asked about, if anything does
-    ItemText shown = nullptr;    // a choice or description as the player sees it
-    ItemText compared = nullptr; // the text by which blank and equal items are refused
+    std::string_view question; // the question line
+    TextPieces asked{};        // what follows it of the item asked about
+    TextPieces shown{};        // a choice or description as the player sees it
+    TextPieces compared{};     // the text by which blank and equal items are refused
+    bool sorts = false;        // its items have sort values
 };
 
-// The row of a type; a row with nothing in it for a type outside 0 to 13.
+// The row of a type; a row with nothing in it for a type outside the table.
 const QuestionKind& kindof(std::int16_t type);
+
+// The pieces put together for an item.
+void addpieces(std::string& text, const TextPieces& pieces, std::int16_t item);
 
 } // namespace brindor

@@ -1,6 +1,6 @@
 #include "quiz/result.h"
 
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "toolkit/operations.h"
 
 namespace brindor {

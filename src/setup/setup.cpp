@@ -1,11 +1,11 @@
 #include "setup/setup.h"
 
 #include "base/numbers.h"
+#include "base/program.h"
 #include "base/text.h"
 #include "frame/services/placement.h"
 #include "frame/services/settings.h"
-#include "frame/services/title.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "toolkit/layout.h"
 #include "toolkit/operations.h"
 
@@ -22,7 +22,7 @@ const Look look{{255, 255, 192}, {255, 224, 128}, {"MS Sans Serif", 11, false}};
 constexpr double editfontsize = 8;
 
 constexpr double listwidth = 4200;
-constexpr double listheight = 6300; // thirteen lines
+constexpr double listheight = 60 + lasttype * 480.0; // all kinds of question, one a line
 constexpr double sidewidth = 4560;
 constexpr double fieldwidth = 600;
 constexpr double spinwidth = 360;

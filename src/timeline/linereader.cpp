@@ -10,8 +10,7 @@ namespace brindor {
 namespace {
 
 constexpr std::size_t chunk = 65536;
-constexpr std::size_t longestline = 1048576; // no real line comes near; keeps a file without line ends out of memory
-constexpr std::string_view separators = ", \t";
+constexpr std::int64_t longestline = 1048576; // no real line comes near; keeps a file without line ends out of memory
 
 // Long tokens of a broken file are cut in messages.
 std::string quoted(std::string_view found)
@@ -60,10 +59,11 @@ Result<std::string> LineReader::line(std::string_view expected)
     std::size_t searched = at_;
     std::size_t end = buffer_.find('\n', searched);
     while (end == std::string::npos && !ended_) {
-        if (buffer_.size() - at_ > longestline) {
+        if (std::ssize(buffer_) - static_cast<std::ptrdiff_t>(at_) > longestline) {
             ++lines_;
             return {std::nullopt,
-                    failure("the line is longer than 1048576 bytes. Check that this is a timeline file.")};
+                    failure("the line is longer than " + numbertext(longestline) +
+                            " bytes. Check that this is a timeline file.")};
         }
         searched = buffer_.size() - at_; // the fill moves what is left to the front
         if (Result<Done> more = fill(); !more) {
@@ -92,10 +92,9 @@ Result<Done> LineReader::numbers(std::span<std::int16_t> numbers, std::string_vi
         if (!text) {
             return {std::nullopt, text.reason};
         }
-        std::size_t at = 0;
-        while (found < numbers.size() && (at = text.value->find_first_not_of(separators, at)) != std::string::npos) {
-            const std::size_t end = text.value->find_first_of(separators, at);
-            const std::string_view token = std::string_view(*text.value).substr(at, end - at);
+        std::string_view rest = *text.value;
+        for (std::string_view token = takevalue(rest); !token.empty() && found < numbers.size();
+             token = takevalue(rest)) {
             const std::optional<std::int64_t> number = wholenumber(token);
             if (!number) {
                 return {std::nullopt, failure(quoted(token) + " is not a whole number. Correct " +
@@ -103,14 +102,10 @@ Result<Done> LineReader::numbers(std::span<std::int16_t> numbers, std::string_vi
             }
             const std::optional<std::int16_t> fitting = toint16(*number);
             if (!fitting) {
-                return {std::nullopt, failure(quoted(token) + " is outside -32768 to 32767. Correct " +
+                return {std::nullopt, failure(quoted(token) + ' ' + std::string(outside16) + ". Correct " +
                                               std::string(expected) + " and choose the period again.")};
             }
             numbers[found++] = *fitting;
-            if (end == std::string::npos) {
-                break;
-            }
-            at = end;
         }
     }
     return {Done{}, {}};

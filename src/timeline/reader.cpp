@@ -54,15 +54,20 @@ struct Reading {
     void refuse(std::string_view what) { failure = reader.failure(what); }
 };
 
-// One of the first two lines. A count outside 0 to 32767 is a failure, so nothing is sized from an unchecked number.
+std::string nocount(std::int64_t count, const std::string& expected)
+{
+    return numbertext(count) + " is no count from 0 to " + numbertext(mostrecords) + ". Correct " + expected +
+           " and choose the period again.";
+}
+
+// One of the first two lines. A count out of range is a failure, so nothing is sized from an unchecked number.
 std::int16_t readcount(Reading& reading, std::string_view expected)
 {
     std::string text;
     reading.line(text, expected);
     const std::int64_t count = leadingnumber(text);
-    if (reading.ok() && (count < 0 || count > highest16)) {
-        reading.refuse(numbertext(count) + " is no count from 0 to 32767. Correct " + std::string(expected) +
-                       " and choose the period again.");
+    if (reading.ok() && (count < 0 || count > mostrecords)) {
+        reading.refuse(nocount(count, std::string(expected)));
     }
     return reading.ok() ? index16(count) : std::int16_t{0};
 }
@@ -118,8 +123,7 @@ void readcatalogue(Reading& reading, Catalogue& catalogue, std::int16_t& counter
     std::int16_t count = 0;
     reading.numbers("the count" + whose, count);
     if (reading.ok() && count < 0) {
-        reading.refuse(numbertext(count) + " is no count from 0 to 32767. Correct the count" + whose +
-                       " and choose the period again.");
+        reading.refuse(nocount(count, "the count" + whose));
         count = 0;
         counter = 0;
         catalogue.resize(1);

@@ -35,7 +35,7 @@ std::int16_t maxdate = -25000;
 std::int16_t curperson = 0;
 std::int16_t curevent = 0;
 
-const std::array<std::string, 5> periodnames = {"Ancient", "Classic", "Medieval", "Modern", ""};
+const std::array<std::string, lastperiod + 2> periodnames = {"Ancient", "Classic", "Medieval", "Modern", ""};
 
 std::int16_t curperiod = 0;
 std::string curfile;

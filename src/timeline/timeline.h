@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/numbers.h"
 #include "timeline/catalogue.h"
 
 #include <array>
@@ -43,8 +44,10 @@ struct EventRec : ItemRec {
     std::int16_t nation2 = 0; // equal to nation1 for an event of one nation
 };
 
+inline constexpr std::int16_t mostrecords = highest16; // of each family, and entries of each Catalogue
+
 // Records 0 to npeople - 1 are in use; a load leaves two empty slots behind them. Written by the load and, while
-// viewonly is 0, by the editors. The counters are whole and at most 32767.
+// viewonly is 0, by the editors. The counters are whole and at most mostrecords.
 extern std::vector<PersonRec> people;
 extern std::vector<EventRec> events;
 extern double npeople;
@@ -76,17 +79,17 @@ extern std::int16_t maxdate;
 extern std::int16_t curperson;
 extern std::int16_t curevent;
 
-// The four periods; slot 4 stays empty.
-extern const std::array<std::string, 5> periodnames;
+// The periods; the slot behind the last stays empty.
 inline constexpr std::int16_t lastperiod = 3;
+extern const std::array<std::string, lastperiod + 2> periodnames;
 
-extern std::int16_t curperiod; // 0 to 3; written by the settings and the editor chooser
+extern std::int16_t curperiod; // 0 to lastperiod; written by the settings and the editor chooser
 extern std::string curfile;    // the timeline file last asked for; written by loadperiod
 
 // The timeline lock: while it is 1 the editors browse only. Written by the start (to 1) and by tests.
 extern std::int16_t viewonly;
 
-// The file of a period, "Medieval.bd3". A period outside 0 to 3 gives ".bd3".
+// The file of a period, "Medieval.bd3". A period outside 0 to lastperiod gives ".bd3".
 std::string periodfile(std::int16_t period);
 
 } // namespace brindor

@@ -1,9 +1,6 @@
 #include "timeline/usedmarks.h"
 
-#include "base/numbers.h"
 #include "timeline/timeline.h"
-
-#include <algorithm>
 
 namespace brindor {
 
@@ -14,11 +11,6 @@ std::size_t usedslot(double isperson, std::int16_t item)
     const std::int64_t slot = isperson != 0 ? std::int64_t{eventcount()} + item : std::int64_t{item};
     const bool inside = item >= 0 && static_cast<std::size_t>(slot) < usedmarks.size();
     return inside ? static_cast<std::size_t>(slot) : usedmarks.size() - 1;
-}
-
-void raisemark(std::size_t slot, std::int16_t delta)
-{
-    usedmarks[slot] = add16(usedmarks[slot], delta);
 }
 
 void clearmarks()

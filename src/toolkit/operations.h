@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/program.h"
 #include "toolkit/controls.h"
 #include "toolkit/host.h"
 
@@ -10,11 +11,9 @@
 // What the program does with screens and controls. All events that this raises, and their order, are settled here.
 namespace brindor::toolkit {
 
-// The title of every message that names none of its own.
-inline constexpr std::string_view applicationtitle = "Brindor Trivia Game";
-
 // ---- putting a screen together; before its load
-// A control joins its screen. Tab goes through the controls in the order of these calls.
+// A control joins its screen. Tab goes through the controls in the order of these calls. A frame must have joined
+// before it takes controls.
 void add(Screen& screen, Control& control, std::string name);
 void add(Frame& container, Control& control, std::string name);
 std::string indexed(std::string_view name, std::int64_t index); // "choice", 2 gives "choice(2)"

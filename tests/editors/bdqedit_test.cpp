@@ -3,6 +3,7 @@
 #include "support/programtest.h"
 #include "support/timelines.h"
 #include "timeline/usedmarks.h"
+#include "timeline/writer.h"
 
 namespace brindor {
 
@@ -18,7 +19,7 @@ protected:
             for (PersonRec& person : people) {
                 person.desc1 = period;
             }
-            const std::string text = tests::timelinetext();
+            const std::string text = timelinetext();
             tests::writefile(std::string(period) + ".bd3",
                              std::string(period) == "Modern" ? text.substr(0, text.size() - 5) : text);
         }

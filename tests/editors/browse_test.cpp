@@ -1,4 +1,5 @@
 #include "editortest.h"
+#include "timeline/writer.h"
 
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
@@ -122,7 +123,7 @@ protected:
         }
         this->host.pictures["there.png"] = 0;
         this->host.persons["ImgDisp"] = [](Screen& screen) { userclose(screen); };
-        const std::string before = tests::timelinetext();
+        const std::string before = timelinetext();
         const std::vector<std::int16_t> marks = usedmarks;
         this->host.answers.assign(100, true);
         const int acts = *rc::gen::inRange(0, 60);
@@ -131,7 +132,7 @@ protected:
                 actatrandom(screen);
             }
         });
-        RC_ASSERT(tests::timelinetext() == before);
+        RC_ASSERT(timelinetext() == before);
         RC_ASSERT(people.size() == 5U);
         RC_ASSERT(events.size() == 5U);
         RC_ASSERT(usedmarks == marks);

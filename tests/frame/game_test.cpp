@@ -6,6 +6,7 @@
 #include "quiz/mchoice.h"
 #include "support/quiztest.h"
 #include "timeline/reader.h"
+#include "timeline/writer.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -169,7 +170,7 @@ protected:
 
 TEST_F(MainScreenTest, StartsInOrderAndEndsWithTheSettings)
 {
-    writefile("Classic.bd3", tests::timelinetext());
+    writefile("Classic.bd3", timelinetext());
     writefile("bdqquiz.log", "old");
     host.pictures["TITLE.BMP"] = 0;
     tests::settimeline({}, {});
@@ -212,7 +213,7 @@ TEST_F(MainScreenTest, GoesOnWithoutAnyFile)
 // Two games in one run: the marks go on, the score does not.
 TEST_F(MainScreenTest, PlaysTwoGames)
 {
-    writefile("Ancient.bd3", tests::timelinetext());
+    writefile("Ancient.bd3", timelinetext());
     answerwrong();
     run([this](MainScreen& s) {
         enableonly({1});

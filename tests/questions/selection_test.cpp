@@ -1,7 +1,7 @@
 #include "questions/selection.h"
 
 #include "base/random.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/texts.h"
 #include "support/programtest.h"
 #include "support/timelines.h"

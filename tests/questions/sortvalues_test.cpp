@@ -1,6 +1,7 @@
 #include "questions/sortvalues.h"
 
-#include "questions/catalogue.h"
+#include "questions/marks.h"
+#include "questions/question.h"
 #include "support/programtest.h"
 #include "support/timelines.h"
 #include "timeline/usedmarks.h"

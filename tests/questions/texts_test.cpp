@@ -1,6 +1,6 @@
 #include "questions/texts.h"
 
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/datetext.h"
 #include "questions/types.h"
 #include "support/programtest.h"

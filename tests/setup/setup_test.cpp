@@ -1,7 +1,7 @@
 #include "setup/setup.h"
 
 #include "frame/services/settings.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "support/gametest.h"
 
 #include <algorithm>

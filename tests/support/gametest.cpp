@@ -4,7 +4,7 @@
 #include "frame/services/log.h"
 #include "frame/services/score.h"
 #include "frame/services/settings.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 
 namespace brindor::tests {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "quiz/showscor.h"
 #include "support/gametest.h"
 #include "support/timelines.h"

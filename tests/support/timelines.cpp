@@ -9,27 +9,6 @@ namespace brindor::tests {
 
 namespace {
 
-std::string pair(std::int16_t a, std::int16_t b)
-{
-    return std::to_string(a) + ", " + std::to_string(b);
-}
-
-std::string block(const ItemRec& record, const std::string& head, const std::string& indices)
-{
-    return head + '\n' + record.name + '\n' + pair(record.date1, record.datetype1) + '\n' +
-           pair(record.date2, record.datetype2) + '\n' + record.desc1 + '\n' + record.desc2 + '\n' + record.desc3 +
-           '\n' + indices + '\n' + record.imagename + '\n' + pair(record.imagesize1, record.imagesize2) + '\n';
-}
-
-std::string section(const std::string& head, const Catalogue& entries)
-{
-    std::string text = head + '\n' + std::to_string(entries.size() - 1) + '\n';
-    for (std::size_t i = 1; i < entries.size(); ++i) {
-        text += "--\n" + entries[i].name + '\n' + std::to_string(entries[i].catweight) + '\n';
-    }
-    return text;
-}
-
 template <class Record>
 Record item(const std::string& name, const Dates& dates, const std::string& desc1, const std::string& desc2)
 {
@@ -130,23 +109,6 @@ void setnumbered(int peoplewanted, int eventswanted)
     }
     setcatalogues(factionnames, factionnames, groupnames, groupnames);
     settimeline(std::move(somepeople), std::move(someevents));
-}
-
-std::string timelinetext()
-{
-    std::string text = std::to_string(peoplecount()) + " -- Number of people in file\n" + std::to_string(eventcount()) +
-                       " -- Number of events in file\n==== PEOPLE\n";
-    for (std::int16_t i = 0; i < peoplecount(); ++i) {
-        const PersonRec& record = people[static_cast<std::size_t>(i)];
-        text += block(record, "** ", pair(record.faction, record.occupation));
-    }
-    text += "+++ EVENTS\n";
-    for (std::int16_t i = 0; i < eventcount(); ++i) {
-        const EventRec& record = events[static_cast<std::size_t>(i)];
-        text += block(record, "++", pair(record.group, record.nation1) + ", " + std::to_string(record.nation2));
-    }
-    return text + section("=== FACTIONS", factions) + section("=== OCCUPATIONS", occupations) +
-           section("=== GROUPS", groups) + section("=== NATIONS", nations);
 }
 
 } // namespace brindor::tests

@@ -24,7 +24,4 @@ Dates years(std::int16_t date1, std::int16_t date2, std::int16_t kind1 = known, 
 // `count` people "Person 0", "Person 1" ... (or events) that all differ in every field that a question compares.
 void setnumbered(int peoplewanted, int eventswanted);
 
-// The Timeline as the text of a timeline file.
-std::string timelinetext();
-
 } // namespace brindor::tests

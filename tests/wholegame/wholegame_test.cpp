@@ -6,6 +6,7 @@
 #include "quiz/mchoice.h"
 #include "support/gametest.h"
 #include "support/timelines.h"
+#include "timeline/writer.h"
 #include "toolkit/operations.h"
 #include "toolkit/qt/qthost.h"
 
@@ -105,7 +106,7 @@ protected:
     WholeGame()
     {
         tests::setnumbered(40, 40);
-        tests::writefile("Ancient.bd3", tests::timelinetext());
+        tests::writefile("Ancient.bd3", timelinetext());
         nquestion = 10;
         writesettings();
     }

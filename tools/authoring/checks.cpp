@@ -2,7 +2,7 @@
 
 #include "authoring/notes.h"
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/types.h"
 #include "timeline/timeline.h"
@@ -50,12 +50,10 @@ void checkindex(const ItemForm& form, std::string_view column, std::int16_t inde
     }
 }
 
-enum class ItemsOf { people, events };
-
 // A question takes five items that differ in what it shows.
-void checkplayable(std::size_t count, ItemsOf family, Notes& notes)
+void checkplayable(std::size_t count, ItemKind of, Notes& notes)
 {
-    const std::string what = family == ItemsOf::people ? "people" : "events";
+    const std::string what = of == ItemKind::person ? "people" : "events";
     if (count < static_cast<std::size_t>(itemsasked)) {
         notes.add(Severity::error, 1,
                   "only " + numbertext(static_cast<std::int64_t>(count)) + ' ' + what + "; a question takes five, so give "
@@ -63,8 +61,7 @@ void checkplayable(std::size_t count, ItemsOf family, Notes& notes)
         return;
     }
     for (std::int16_t type = 1; type <= lasttype; ++type) {
-        const bool ofpeople = kindof(type).family == Family::people;
-        if (ofpeople == (family == ItemsOf::people) && !canfill(type)) {
+        if (kindof(type).of == of && !canfill(type)) {
             notes.add(Severity::error, 1,
                       "the questions " + inquotes(kindof(type).name) + " cannot be asked; they need five " + what +
                           " that differ in what the question shows");
@@ -84,8 +81,8 @@ void checktimeline(const Forms& forms, Findings& findings)
 {
     Notes peoplenotes(forms.peoplesource, findings);
     Notes eventnotes(forms.eventsource, findings);
-    checkplayable(forms.people.size(), ItemsOf::people, peoplenotes);
-    checkplayable(forms.events.size(), ItemsOf::events, eventnotes);
+    checkplayable(forms.people.size(), ItemKind::person, peoplenotes);
+    checkplayable(forms.events.size(), ItemKind::event, eventnotes);
     for (std::size_t i = 0; i < forms.people.size(); ++i) {
         const PersonForm& form = forms.people[i];
         const PersonRec& record = people[i];

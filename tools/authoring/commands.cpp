@@ -4,13 +4,13 @@
 #include "authoring/conversion.h"
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
-#include "authoring/shell.h"
-#include "authoring/timelinetext.h"
+#include "authoring/commandline.h"
 #include "authoring/writing.h"
 #include "base/files.h"
 #include "base/picturename.h"
 #include "base/text.h"
 #include "timeline/reader.h"
+#include "timeline/writer.h"
 
 #include <algorithm>
 #include <cctype>
@@ -220,42 +220,6 @@ std::string titleof(std::string target)
         title.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(title.front())));
     }
     return title;
-}
-
-Findings exporttimeline(const std::string& file, const std::string& folder, bool overwrite)
-{
-    Findings findings;
-    const std::string peoplepath = inside(folder, peoplefile);
-    const std::string eventspath = inside(folder, eventsfile);
-    for (const std::string& path : {peoplepath, eventspath}) {
-        if (!overwrite && isregularfile(path)) {
-            fail(findings, path, "stands there already; name another folder, or replace it with --overwrite");
-        }
-    }
-    const std::optional<Forms> forms = haserrors(findings) ? std::nullopt : readfile(file, findings);
-    if (!forms) {
-        return findings;
-    }
-    if (const Result<Done> made = makefolder(folder); !made) {
-        fail(findings, folder, "cannot be made: " + made.reason);
-        return findings;
-    }
-    std::vector<EventPicture> pictures;
-    for (const EventForm& form : forms->events) {
-        pictures.push_back({form.picture, 0, 0});
-    }
-    if (const Result<Done> copied = copypictures(pictures, folderof(file), folder); !copied) {
-        fail(findings, file, copied.reason);
-        return findings;
-    }
-    for (const auto& [path, text] :
-         {std::pair(peoplepath, peopletext(*forms)), std::pair(eventspath, eventstext(*forms))}) {
-        if (const Result<Done> written = replacefile(path, text); !written) {
-            fail(findings, path, "cannot be written: " + written.reason);
-            return findings;
-        }
-    }
-    return findings;
 }
 
 } // namespace brindor::authoring

@@ -124,14 +124,14 @@ Form itemform(const ItemRec& record, std::size_t index, const std::vector<std::i
 
 Result<Done> puttimeline(const Forms& forms, const std::vector<EventPicture>& pictures)
 {
-    const std::size_t most = static_cast<std::size_t>(highest16);
+    const std::size_t most = static_cast<std::size_t>(mostrecords);
     if (forms.people.size() > most || forms.events.size() > most) {
-        return {std::nullopt, "a timeline holds at most 32767 people and 32767 events"};
+        return {std::nullopt, "a timeline holds at most " + numbertext(mostrecords) + " people and as many events"};
     }
     putpeople(forms.people);
     putevents(forms.events, pictures);
     if (nations.size() - 1 > most) {
-        return {std::nullopt, "a timeline holds at most 32767 nations"};
+        return {std::nullopt, "a timeline holds at most " + numbertext(mostrecords) + " nations"};
     }
     nfactions = entrycount(factions);
     noccupations = entrycount(occupations);

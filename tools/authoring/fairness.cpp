@@ -4,7 +4,7 @@
 #include "authoring/words.h"
 #include "base/random.h"
 #include "base/text.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/types.h"
 #include "timeline/timeline.h"

@@ -195,9 +195,9 @@ std::vector<Form> readrecords(Source& source, std::span<const Column> columns, F
             forms.push_back(std::move(form));
         }
     }
-    if (forms.size() > static_cast<std::size_t>(highest16)) {
-        findings.push_back({Severity::error, source.file, forms[static_cast<std::size_t>(highest16)].line,
-                            "a timeline holds at most 32767 of these records"});
+    if (forms.size() > static_cast<std::size_t>(mostrecords)) {
+        findings.push_back({Severity::error, source.file, forms[static_cast<std::size_t>(mostrecords)].line,
+                            "a timeline holds at most " + numbertext(mostrecords) + " of these records"});
     }
     return forms;
 }

@@ -2,7 +2,7 @@
 
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
-#include "authoring/shell.h"
+#include "authoring/commandline.h"
 #include "authoring/words.h"
 #include "authoring/writing.h"
 #include "authoring/zipfile.h"

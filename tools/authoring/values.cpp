@@ -110,7 +110,7 @@ Result<std::int16_t> yearof(std::string_view field)
     const std::int64_t number = wholenumber(found[3].str()).value_or(0);
     const std::optional<std::int16_t> year = toint16(before ? -number : number);
     if (!year) {
-        return {std::nullopt, inquotes(field) + " is outside -32768 to 32767"};
+        return {std::nullopt, inquotes(field) + ' ' + std::string(outside16)};
     }
     return {*year, {}};
 }

@@ -5,7 +5,7 @@
 #include "base/text.h"
 #include "frame/services/failures.h"
 #include "frame/services/placement.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "timeline/timeline.h"
 
 #include <algorithm>
@@ -16,17 +16,16 @@
 
 namespace brindor {
 
-std::string mindif = "1";
-std::int16_t maxdif = 1;
-std::int16_t nquestion = 5;
-std::int16_t logstatus = 1;
-std::string titlepicture = "TITLE.BMP";
+std::string mindif;
+std::int16_t maxdif = 0;
+std::int16_t nquestion = 0;
+std::int16_t logstatus = 0;
+std::string titlepicture;
 
 namespace {
 
 constexpr const char* settingsfile = "bdq.INI";
 constexpr std::size_t largestfile = 65536;
-constexpr std::string_view separators = ", \t";
 
 using Rows = std::array<std::size_t, 5>;
 constexpr Rows firstrows = {0, 1, 3, 2, 4}; // the order of the file
@@ -39,9 +38,9 @@ constexpr std::int16_t maximisedstate = toolkit::maximised;
 
 void setdefaults()
 {
-    mindif = "1";
-    maxdif = 1;
-    nquestion = 5;
+    mindif = numbertext(lowestdifficulty);
+    maxdif = lowestdifficulty;
+    nquestion = usualquestions;
     logstatus = 1;
     titlepicture = "TITLE.BMP";
     placements.fill({});
@@ -80,12 +79,8 @@ struct ValueReader {
         std::size_t count = 0;
         while (count < Count && !rest.empty()) {
             std::string_view line = nextline();
-            for (std::size_t at = line.find_first_not_of(separators); at != std::string_view::npos && count < Count;
-                 at = line.find_first_not_of(separators)) {
-                line.remove_prefix(at);
-                const std::size_t end = std::min(line.find_first_of(separators), line.size());
-                found[count++] = wholenumber(line.substr(0, end));
-                line.remove_prefix(end);
+            for (std::string_view value = takevalue(line); !value.empty() && count < Count; value = takevalue(line)) {
+                found[count++] = wholenumber(value);
             }
         }
         return found;
@@ -146,10 +141,10 @@ void readsettings()
     }
     ValueReader reader{withoutmark(*content.value)};
     const auto game = reader.values<4>();
-    std::int16_t lowest = 1;
-    take(lowest, game[0], 1, highestdifficulty);
+    std::int16_t lowest = lowestdifficulty;
+    take(lowest, game[0], lowestdifficulty, highestdifficulty);
     mindif = numbertext(lowest);
-    take(maxdif, game[1], 1, highestdifficulty);
+    take(maxdif, game[1], lowestdifficulty, highestdifficulty);
     take(nquestion, game[2], 1, mostquestions);
     take(logstatus, game[3], 0, 2);
     const auto period = reader.values<4>(); // three reserved numbers behind it

@@ -2,7 +2,7 @@
 
 #include "base/files.h"
 #include "frame/services/placement.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "support/gametest.h"
 #include "timeline/timeline.h"
 

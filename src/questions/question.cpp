@@ -1,13 +1,13 @@
-#include "questions/catalogue.h"
+#include "questions/question.h"
 
 #include "questions/types.h"
 
 namespace brindor {
 
-std::array<std::string, 15> typenames;
-std::array<std::int16_t, 15> typeenabled{};
+ByType<std::string> typenames;
+ByType<std::int16_t> typeenabled{};
 std::int16_t qtype = 0;
-std::array<std::int16_t, 6> chosen{};
+std::array<std::int16_t, itemsasked + 1> chosen{};
 double isperson = 0;
 
 void filltables()

@@ -1,13 +1,12 @@
-#include "authoring/timelinetext.h"
+#include "timeline/writer.h"
 
 #include "base/text.h"
 #include "timeline/timeline.h"
 
 #include <cstddef>
 #include <initializer_list>
-#include <vector>
 
-namespace brindor::authoring {
+namespace brindor {
 
 namespace {
 
@@ -58,4 +57,4 @@ std::string timelinetext()
            section("=== GROUPS", groups) + section("=== NATIONS", nations);
 }
 
-} // namespace brindor::authoring
+} // namespace brindor

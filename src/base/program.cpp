@@ -1,0 +1,7 @@
+#include "base/program.h"
+
+namespace brindor {
+
+const std::string_view versiontext = BRINDOR_VERSION;
+
+} // namespace brindor

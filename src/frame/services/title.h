@@ -1,9 +1,0 @@
-#pragma once
-
-#include <string_view>
-
-namespace brindor {
-
-inline constexpr std::string_view titletext = "Brindor History Trivia Game";
-
-} // namespace brindor
