@@ -24,12 +24,17 @@ int main(int argc, char** argv)
     CLI::App* title = app.add_subcommand("title", "Draw the background of the main screen");
     title->add_option("OUTFILE", outfile, "The BMP file to write, as TITLE.BMP")->required();
 
+    CLI::App* icons = app.add_subcommand("icons", "Draw the game's icon in all sizes");
+    icons->add_option("OUTFOLDER", outfolder, "The folder for brindor-16.png to brindor-256.png and brindor.svg")
+        ->required();
+
     CLI11_PARSE(app, argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "*.warning=false"); // about the machine's display, which plays no part here
     const QGuiApplication application(argc, argv);
-    const authoring::Findings findings =
-        maps->parsed() ? mapmaker::drawmaps(folder, outfolder, prefix) : mapmaker::drawtitle(outfile);
+    const authoring::Findings findings = maps->parsed()    ? mapmaker::drawmaps(folder, outfolder, prefix)
+                                         : icons->parsed() ? mapmaker::drawicons(outfolder)
+                                                           : mapmaker::drawtitle(outfile);
     for (const authoring::Finding& finding : findings) {
         std::cerr << authoring::findingline(finding) << '\n';
     }
