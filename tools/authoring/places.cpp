@@ -5,6 +5,7 @@
 #include "authoring/words.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "coastlines/builtin.h"
 #include "coastlines/coastlines.h"
 
 #include <algorithm>
@@ -53,7 +54,7 @@ void checksea(const EventForm& form, const Position& position, const Coastlines&
 void checkplaces(const Forms& forms, Findings& findings)
 {
     Notes notes(forms.eventsource, findings);
-    const Result<Coastlines> coastlines = worldcoastlines();
+    const Result<Coastlines> coastlines = readcoastlines(builtin("land.txt"));
     if (!coastlines) {
         notes.add(Severity::error, 0, coastlines.reason);
         return;

@@ -26,6 +26,11 @@ bool isarchive(std::string_view content)
     return content.starts_with("PK");
 }
 
+bool isdrawing(std::string_view content)
+{
+    return content.starts_with('<');
+}
+
 bool isanything(std::string_view)
 {
     return true;
@@ -38,14 +43,15 @@ struct Sort {
     std::string_view what;
 };
 
-constexpr std::array<Sort, 8> sorts = {{{"bd3", istimeline, "timeline"},
+constexpr std::array<Sort, 9> sorts = {{{"bd3", istimeline, "timeline"},
                                         {"csv", isanything, "spreadsheet"},
                                         {"zip", isarchive, "zip file"},
                                         {"png", ispicture, "picture"},
                                         {"jpg", ispicture, "picture"},
                                         {"jpeg", ispicture, "picture"},
                                         {"bmp", ispicture, "picture"},
-                                        {"gif", ispicture, "picture"}}};
+                                        {"gif", ispicture, "picture"},
+                                        {"svg", isdrawing, "drawing"}}};
 
 // Whether the folder of a file, as far as it stands, lies in `folder` when all links are followed.
 bool staysin(const std::string& folder, const std::string& name)

@@ -17,7 +17,6 @@ namespace {
 constexpr double degree = std::numbers::pi / 180;
 constexpr double earthradius = 6371; // kilometres
 constexpr double unitsperdegree = 100;
-constexpr std::size_t fewestpoints = 3;
 
 double wrapped(double longitude)
 {
@@ -62,6 +61,23 @@ Ring ringof(const std::vector<std::int64_t>& numbers)
     return ring;
 }
 
+Result<Coastlines> readlines(std::string_view text, std::size_t fewestpoints, const char* subject, const char* fault)
+{
+    Coastlines lines;
+    std::int64_t line = 0;
+    while (!text.empty()) {
+        ++line;
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        const auto numbers = numbersof(text.substr(0, end));
+        if (!numbers || numbers->size() % 2 != 0 || numbers->size() < 2 * fewestpoints) {
+            return {std::nullopt, std::string(subject) + ", line " + numbertext(line) + ": " + fault};
+        }
+        lines.push_back(ringof(*numbers));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return {std::move(lines), {}};
+}
+
 } // namespace
 
 double dot(const Vector& a, const Vector& b)
@@ -88,24 +104,23 @@ bool Ring::roundsapole() const
 
 Result<Coastlines> readcoastlines(std::string_view text)
 {
-    Coastlines coastlines;
-    std::int64_t line = 0;
-    while (!text.empty()) {
-        ++line;
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        const auto numbers = numbersof(text.substr(0, end));
-        if (!numbers || numbers->size() % 2 != 0 || numbers->size() < 2 * fewestpoints) {
-            return {std::nullopt, "the coastlines, line " + numbertext(line) + ": this is no ring of points"};
-        }
-        coastlines.push_back(ringof(*numbers));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return {std::move(coastlines), {}};
+    return readlines(text, 3, "the coastlines", "this is no ring of points");
 }
 
-Result<Coastlines> worldcoastlines()
+Result<Coastlines> readrivers(std::string_view text)
 {
-    return readcoastlines(builtin("land.txt"));
+    return readlines(text, 2, "the rivers", "this is no line of points");
+}
+
+Result<World> readworld()
+{
+    Result<Coastlines> land = readcoastlines(builtin("land.txt"));
+    Result<Coastlines> lakes = readcoastlines(builtin("lakes.txt"));
+    Result<Coastlines> rivers = readrivers(builtin("rivers.txt"));
+    if (!land || !lakes || !rivers) {
+        return {std::nullopt, land.reason + lakes.reason + rivers.reason};
+    }
+    return {World{std::move(*land.value), std::move(*lakes.value), std::move(*rivers.value)}, {}};
 }
 
 // Counts how often the way from the position to the north pole crosses the ring. A point right north of the position
