@@ -1,6 +1,7 @@
 # Sourced by the other scripts, which set `root` to the project's folder first. Debian 12 or newer.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libcsv-dev libcli11-dev libstb-dev fonts-liberation fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build qt6-base-dev libcsv-dev libcli11-dev libexif-dev libicu-dev libstb-dev libzip-dev
+                fonts-liberation fonts-dejavu-core)
 test_packages=(libgtest-dev librapidcheck-dev)
 display_packages=(xvfb openbox x11vnc)
 

@@ -206,6 +206,16 @@ bool isregularfile(const std::string& path)
     return !refused() && ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
+Result<std::string> realpathof(const std::string& path)
+{
+    if (refused()) {
+        return failed<std::string>();
+    }
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(path, error);
+    return error ? Result<std::string>{std::nullopt, error.message()} : Result<std::string>{real.string(), {}};
+}
+
 Result<Done> makefolder(const std::string& path)
 {
     if (path.empty()) {

@@ -52,6 +52,9 @@ Result<Done> replacefile(const std::string& path, std::string_view content);
 
 bool isregularfile(const std::string& path);
 
+// The path without links, from the root. Fails where there is nothing at the path.
+Result<std::string> realpathof(const std::string& path);
+
 // Makes a folder and those above it that are missing. Nothing to do where it stands, and for an empty path.
 Result<Done> makefolder(const std::string& path);
 

@@ -5,8 +5,9 @@
 namespace brindor {
 
 // Draws the item for one slot, 0 to 4, of a question of type qtype: stores it in chosen, raises its used mark, sets
-// isperson and returns it. A screen asks for the slots in order. Ask canfill first: where no item can pass, the
-// result is item 0 with no mark raised. A qtype outside 1 to lasttype shows a message, with the same result.
+// isperson and returns it. A screen asks for the slots in order, since a slot's item differs from those of the slots
+// before it; a slot outside 0 to 4 must not be asked for. Ask canfill first: where no item can pass, the result is
+// item 0, and neither chosen nor a mark changes. A qtype outside 1 to lasttype shows a message, with the same result.
 std::int16_t getitem(std::int16_t slot);
 
 // Whether the loaded Timeline has five items of the type's family with pairwise different texts that are not blank.

@@ -12,7 +12,8 @@
 namespace brindor::toolkit {
 
 // ---- putting a screen together; before its load
-// A control joins its screen. Tab goes through the controls in the order of these calls.
+// A control joins its screen. Tab goes through the controls in the order of these calls. A frame must have joined
+// before it takes controls.
 void add(Screen& screen, Control& control, std::string name);
 void add(Frame& container, Control& control, std::string name);
 std::string indexed(std::string_view name, std::int64_t index); // "choice", 2 gives "choice(2)"

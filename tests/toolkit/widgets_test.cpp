@@ -1,3 +1,4 @@
+#include "base/picturename.h"
 #include "support/scratchfolder.h"
 #include "toolkit/operations.h"
 #include "toolkit/qt/pictures.h"
@@ -208,21 +209,24 @@ protected:
 
 TEST_F(PictureTest, EachFailureHasItsNumber)
 {
-    std::filesystem::create_directory("folder");
+    std::filesystem::create_directory("folder.png");
+    std::filesystem::create_symlink("/etc/hostname", "link.png");
     writefile("text.png", "no picture");
     writefile("empty.png", "");
     savepicture("good.png", 64, 48);
     writefile("cut.png", contentof("good.png").substr(0, 60));
     writefile("manypixels.bmp", bmphead(10000, 10000));
     writefile("huge.png", "");
-    std::filesystem::resize_file("huge.png", qt::largestpicturefile + 1);
+    std::filesystem::resize_file("huge.png", largestpicturefile + 1);
     struct Case {
         const char* file;
         int error;
     };
     for (const Case& wanted : {Case{"missing.png", qt::picturenotfound},
-                               {"folder", qt::picturenotafile},
-                               {"/dev/zero", qt::picturenotafile},
+                               {"folder.png", qt::picturenotafile},
+                               {"/dev/zero", qt::pictureoutside},
+                               {"../good.png", qt::pictureoutside},
+                               {"link.png", qt::pictureoutside},
                                {"text.png", qt::notapicture},
                                {"empty.png", qt::notapicture},
                                {"cut.png", qt::notapicture},

@@ -1,5 +1,8 @@
+#include "mapmaker/framing.h"
 #include "mapmaker/projection.h"
 
+#include <QPainterPathStroker>
+#include <QPen>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -9,17 +12,12 @@ namespace brindor::mapmaker {
 namespace {
 
 // Fails the test and gives no coastlines where they can't be read.
-const Coastlines& world()
+const World& world()
 {
-    static const Result<Coastlines> coastlines = worldcoastlines();
-    EXPECT_EQ(coastlines.reason, "");
-    static const Coastlines none;
-    return coastlines ? *coastlines.value : none;
-}
-
-double awayfrom(const Position& a, const Position& b)
-{
-    return std::acos(std::min(1.0, dot(vectorof(a), vectorof(b)))) * 180 / 3.14159265358979;
+    static const Result<World> read = readworld();
+    EXPECT_EQ(read.reason, "");
+    static const World none;
+    return read ? *read.value : none;
 }
 
 } // namespace
@@ -43,14 +41,6 @@ TEST(Coastlines, FaultsAreToldWithTheirLine)
                   "the coastlines, line 2: this is no ring of points")
             << bad;
     }
-}
-
-TEST(Coastlines, OneRingGoesRoundThePole)
-{
-    const auto around =
-        std::count_if(world().begin(), world().end(), [](const Ring& ring) { return ring.roundsapole(); });
-    EXPECT_EQ(around, 1);
-    EXPECT_GT(world().size(), 1000U);
 }
 
 // A map shows land or water at its centre, whatever lies on the other side of the globe.
@@ -82,11 +72,49 @@ TEST(Land, IsWhereItIs)
     for (const Case& c : cases) {
         for (const double cap : {40.0, 90.0}) {
             const View regional(Projection::equalarea, c.at, cap, 600, {0, 0});
-            EXPECT_EQ(regional.land(world(), Islets::dots).contains(QPointF(0, 0)), c.land) << c.name << ' ' << cap;
+            EXPECT_EQ(regional.land(world().land, Islets::dots).contains(QPointF(0, 0)), c.land)
+                << c.name << ' ' << cap;
         }
         const QRectF frame(0, 0, 720, 360);
-        EXPECT_EQ(worldland(world(), frame).contains(worldpoint(c.at, frame) + QPointF(0.01, -0.01)), c.land) << c.name;
+        EXPECT_EQ(worldland(world().land, frame).contains(worldpoint(c.at, frame) + QPointF(0.01, -0.01)), c.land)
+            << c.name;
     }
+}
+
+TEST(Waters, AreWhereTheyAre)
+{
+    const auto lakeat = [](const Position& at) {
+        return View(Projection::equalarea, at, 10, 2000, {0, 0})
+            .land(world().lakes, Islets::omitted)
+            .contains(QPointF(0, 0));
+    };
+    EXPECT_TRUE(lakeat({-1, 33})) << "Lake Victoria";
+    EXPECT_TRUE(lakeat({48, -87.5})) << "Lake Superior";
+    EXPECT_FALSE(lakeat({7.2, -0.1})) << "a dam keeps this water";
+    EXPECT_FALSE(lakeat({0, 0}));
+    const auto riverat = [](const Position& at) {
+        const QPainterPath path = View(Projection::equalarea, at, 10, 2000, {0, 0}).rivers(world().rivers);
+        return QPainterPathStroker(QPen(Qt::black, 16)).createStroke(path).contains(QPointF(0, 0));
+    };
+    EXPECT_TRUE(riverat({30.05, 31.23})) << "the Nile at Cairo";
+    EXPECT_TRUE(riverat({30.58, 114.3})) << "the Yangtze at Wuhan";
+    EXPECT_FALSE(riverat({24, 8})) << "the Sahara";
+}
+
+TEST(Frames, AreNarrowWhereEventsLieClose)
+{
+    const Position athens{38, 23.7};
+    const Position outback{-30, 140}; // far from what is always shown close
+    const auto ringof = [](const Position& about, double away) {
+        return std::vector<Position>(8, {about.latitude + away, about.longitude});
+    };
+    EXPECT_EQ(frameangle(athens, ringof(athens, 2)), 18);
+    EXPECT_EQ(frameangle(athens, ringof(athens, 30)), 24);
+    EXPECT_EQ(frameangle(athens, {}), 24);
+    EXPECT_EQ(frameangle(outback, ringof(outback, 2)), 18);
+    EXPECT_NEAR(frameangle(outback, ringof(outback, 12)), 36, 1e-6);
+    EXPECT_EQ(frameangle(outback, ringof(outback, 30)), 60);
+    EXPECT_EQ(frameangle(outback, std::vector<Position>(20, outback)), 60); // the same place counts for nothing
 }
 
 RC_GTEST_PROP(Views, LeadThereAndBack, ())

@@ -13,8 +13,14 @@ void checkrecords(const Forms& forms, Findings& findings);
 // that no reader expects. The Timeline holds the same records in the same order.
 void checktimeline(const Forms& forms, Findings& findings);
 
-// Warnings: descriptions that give a name or a year away, two right answers to one question, texts that are too long
-// or missing, names that stand only once. The Timeline holds the same records in the same order.
-void checkfairness(const Forms& forms, Findings& findings);
+// Warnings: descriptions that give a name or a year away, texts that are too long or missing, names of lists that stand
+// only once or within another.
+void checktexts(const Forms& forms, Findings& findings);
+
+// Warnings: ranges that cover many other events, reigns among lives. Notes: events that share their date.
+void checkdates(const Forms& forms, Findings& findings);
+
+// Warnings: places that lie in the sea, or far from where the same name stands in another row.
+void checkplaces(const Forms& forms, Findings& findings);
 
 } // namespace brindor::authoring

@@ -2,17 +2,23 @@
 
 #include "authoring/checks.h"
 #include "authoring/conversion.h"
-#include "authoring/csvtexts.h"
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
+#include "authoring/commandline.h"
+#include "authoring/writing.h"
 #include "base/files.h"
+#include "base/picturename.h"
 #include "base/text.h"
 #include "timeline/reader.h"
 #include "timeline/writer.h"
 
-#include <array>
+#include <algorithm>
+#include <cctype>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
-#include <utility>
+#include <string_view>
+#include <vector>
 
 namespace brindor::authoring {
 
@@ -21,18 +27,6 @@ namespace {
 void fail(Findings& findings, const std::string& file, const std::string& what)
 {
     findings.push_back({Severity::error, file, 0, what});
-}
-
-void checkplaces(const Forms& forms, Findings& findings)
-{
-    for (const EventForm& form : forms.events) {
-        if (form.picture.empty() && !hasplace(form)) {
-            findings.push_back({Severity::error, forms.eventsource.file, form.line,
-                                forms.eventsource.field("place") +
-                                    ": the event has no picture; give place, latitude and longitude for a map, or a "
-                                    "picture of your own"});
-        }
-    }
 }
 
 // The reader's failure text names the file and the line in its own form, "Modern.bd3, line 12: ...".
@@ -59,106 +53,173 @@ std::optional<Forms> readfile(const std::string& file, Findings& findings)
     return timelineforms(file, lines);
 }
 
-} // namespace
-
-Findings maketimeline(const std::string& folder, const std::string& file)
+// The records of a folder's spreadsheets, examined whole and put into the Timeline.
+Forms examined(const std::string& folder, const std::string& prefix, Findings& findings)
 {
-    Findings findings;
     Forms forms = readfolder(folder, findings);
+    const bool complete = !haserrors(findings);
     checkrecords(forms, findings);
     sortforms(forms);
-    const std::array<std::string, 2> places = {folder, folderof(file)};
-    const std::vector<EventPicture> pictures = findpictures(forms, mapprefix(file), places, false, findings);
+    const std::vector<EventPicture> pictures = findpictures(forms, prefix, folder, findings);
+    if (const Result<Done> put = puttimeline(forms, pictures); !put) {
+        fail(findings, folder, put.reason);
+        return forms;
+    }
+    if (complete) { // records left out would make a type look as if it could not be filled
+        checktimeline(forms, findings);
+    }
+    checktexts(forms, findings);
+    checkdates(forms, findings);
+    checkplaces(forms, findings);
     sortfindings(findings);
-    if (haserrors(findings)) {
-        return findings;
+    return forms;
+}
+
+// "40 people, 40 events"
+std::string counts(const Forms& forms)
+{
+    return counttext(forms.people.size(), "person", "people") + ", " + counttext(forms.events.size(), "event", "events");
+}
+
+// The maps that are not there yet, with the command that draws them.
+std::string undrawn(const Forms& forms, const std::string& prefix, const std::string& outfolder)
+{
+    const std::vector<std::string> names = picturenames(forms.events, prefix);
+    std::int64_t count = 0;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        count += isdrawn(forms.events[i]) && !isregularfile(inside(outfolder, names[i])) ? 1 : 0;
     }
-    Result<Done> done = puttimeline(forms, pictures);
-    if (done) {
-        done = copypictures(pictures, folder, folderof(file));
+    if (count == 0) {
+        return {};
     }
-    if (!done) {
-        fail(findings, folder, done.reason);
-        return findings;
+    return "; " + numbertext(count) + (count == 1 ? " map is" : " maps are") + " not drawn yet, which mapmaker maps does";
+}
+
+constexpr std::string_view examplepeople =
+    "Zheng He,1371,ca.,1433,ca.,Led treasure fleets across the Indian Ocean.,Brought a giraffe home.,China,Explorer\n"
+    "Gerardus Mercator,1512,,1594,,Drew a chart for steady courses.,,Flanders,Mapmaker\n"
+    "Sacagawea,1788,ca.,1812,,Guided two captains to the western sea.,,Shoshone,Explorer\n";
+constexpr std::string_view exampleevents =
+    "Fall of Constantinople,1453,,,,Great cannon broke the land walls.,,War,Ottoman Empire,Byzantium,Constantinople,"
+    "41.01,28.98,\n"
+    "First landfall of Columbus,1492,,,,Three ships from Palos came to an island.,,Exploration,Spain,,San Salvador,"
+    "24.05,-74.50,\n"
+    "Portrait of Mona Lisa,1503,ca.,1519,ca.,The sitter of a long work in Florence smiles.,,Art,Italy,,Florence,43.77,"
+    "11.26,\n";
+
+} // namespace
+
+Report maketimeline(const std::string& folder, const std::string& file, bool overwrite)
+{
+    Report report;
+    if (!istimelinefile(file)) {
+        fail(report.findings, file, "is no name for a timeline; it must end in .bd3, as Modern.bd3");
+        return report;
     }
-    const Result<Done> written = replacefile(file, timelinetext());
-    if (!written) {
-        fail(findings, file, "cannot be written: " + written.reason);
+    const std::string prefix = mapprefix(file);
+    const Forms forms = examined(folder, prefix, report.findings);
+    Writing writing(overwrite, report.findings);
+    takepictures(forms.events, folder, file, writing, report.findings);
+    if (!haserrors(report.findings)) {
+        writing.add(file, timelinetext());
     }
-    return findings;
+    if (writing.commit()) {
+        report.said = file.substr(file.find_last_of('/') + 1) + ": " + counts(forms) + undrawn(forms, prefix, folderof(file));
+    }
+    return report;
 }
 
 Findings checkfolder(const std::string& folder)
 {
     Findings findings;
-    Forms forms = readfolder(folder, findings);
-    const bool complete = !haserrors(findings);
-    checkrecords(forms, findings);
-    checkplaces(forms, findings);
-    sortforms(forms);
-    const std::vector<EventPicture> pictures =
-        findpictures(forms, mapprefix(folder), std::array{folder}, true, findings);
-    const Result<Done> put = puttimeline(forms, pictures);
-    if (!put) {
-        fail(findings, folder, put.reason);
-        return findings;
-    }
-    if (complete) { // records left out would make a type look as if it could not be filled
-        checktimeline(forms, findings);
-    }
-    checkfairness(forms, findings);
-    sortfindings(findings);
+    examined(folder, mapprefix(titleof(folder)), findings);
     return findings;
 }
 
 Findings checkfile(const std::string& file)
 {
     Findings findings;
-    const std::optional<Forms> forms = readfile(file, findings);
-    if (forms) {
+    if (const std::optional<Forms> forms = readfile(file, findings)) {
         checkrecords(*forms, findings);
-        findpictures(*forms, mapprefix(file), std::array{folderof(file)}, true, findings);
+        checkpictures(*forms, file, findings);
         checktimeline(*forms, findings);
-        checkfairness(*forms, findings);
+        checktexts(*forms, findings);
+        checkdates(*forms, findings);
         sortfindings(findings);
     }
     return findings;
 }
 
-Findings exporttimeline(const std::string& file, const std::string& folder, bool overwrite)
+Report exporttimeline(const std::string& file, const std::string& folder, bool overwrite)
 {
-    Findings findings;
-    const std::string peoplepath = inside(folder, peoplefile);
-    const std::string eventspath = inside(folder, eventsfile);
-    for (const std::string& path : {peoplepath, eventspath}) {
-        if (!overwrite && isregularfile(path)) {
-            fail(findings, path, "stands there already; name another folder, or replace it with --overwrite");
-        }
-    }
-    const std::optional<Forms> forms = haserrors(findings) ? std::nullopt : readfile(file, findings);
+    Report report;
+    std::optional<Forms> forms = readfile(file, report.findings);
     if (!forms) {
-        return findings;
+        return report;
     }
-    if (const Result<Done> made = makefolder(folder); !made) {
-        fail(findings, folder, "cannot be made: " + made.reason);
-        return findings;
+    Writing writing(overwrite, report.findings);
+    takeback(*forms, file, folder, writing, report.findings);
+    writing.add(folder, std::string(peoplefile), peopletext(*forms));
+    writing.add(folder, std::string(eventsfile), eventstext(*forms));
+    if (writing.commit()) {
+        report.said = folder + ": " + counts(*forms);
     }
-    std::vector<EventPicture> pictures;
-    for (const EventForm& form : forms->events) {
-        pictures.push_back({form.picture, 0, 0});
+    return report;
+}
+
+Report newtimeline(const std::string& folder, char separator)
+{
+    const auto separated = [separator](std::string text) {
+        std::replace(text.begin(), text.end(), ',', separator); // the examples hold no comma of their own
+        return text;
+    };
+    Report report;
+    Writing writing(false, report.findings);
+    Forms forms;
+    writing.add(folder, std::string(peoplefile), separated(peopletext(forms) + std::string(examplepeople)));
+    writing.add(folder, std::string(eventsfile), separated(eventstext(forms) + std::string(exampleevents)));
+    if (writing.commit()) {
+        report.said = folder + ": people.csv and events.csv with three example rows each; write your own rows, then "
+                               "timelinemaker play " + inshell(folder);
     }
-    if (const Result<Done> copied = copypictures(pictures, folderof(file), folder); !copied) {
-        fail(findings, file, copied.reason);
-        return findings;
-    }
-    for (const auto& [path, text] :
-         {std::pair(peoplepath, peopletext(*forms)), std::pair(eventspath, eventstext(*forms))}) {
-        if (const Result<Done> written = replacefile(path, text); !written) {
-            fail(findings, path, "cannot be written: " + written.reason);
-            return findings;
+    return report;
+}
+
+bool istimelinefile(std::string_view target)
+{
+    return endsin(target, "bd3");
+}
+
+bool loadtarget(const std::string& target, Findings& findings)
+{
+    Findings own;
+    if (istimelinefile(target)) {
+        readfile(target, own);
+    } else {
+        Forms forms = readfolder(target, own);
+        sortforms(forms);
+        if (const Result<Done> put = puttimeline(forms, std::vector<EventPicture>(forms.events.size())); !put) {
+            fail(own, target, put.reason);
         }
     }
-    return findings;
+    const bool loaded = !haserrors(own);
+    findings.insert(findings.end(), own.begin(), own.end());
+    return loaded;
+}
+
+std::string titleof(std::string target)
+{
+    while (target.size() > 1 && target.ends_with('/')) {
+        target.pop_back();
+    }
+    std::string title = target.substr(target.find_last_of('/') + 1);
+    if (istimelinefile(title)) {
+        title.resize(title.size() - 4);
+    }
+    if (!title.empty()) {
+        title.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(title.front())));
+    }
+    return title;
 }
 
 } // namespace brindor::authoring

@@ -143,8 +143,8 @@ Result<Done> puttimeline(const Forms& forms, const std::vector<EventPicture>& pi
 Forms timelineforms(const std::string& file, const RecordLines& lines)
 {
     Forms forms;
-    forms.peoplesource = {file, {}};
-    forms.eventsource = {file, {}};
+    forms.peoplesource.file = file;
+    forms.eventsource.file = file;
     for (std::int16_t i = 0; i < peoplecount(); ++i) {
         const PersonRec& record = personrec(i);
         PersonForm form = itemform<PersonForm>(record, static_cast<std::size_t>(i), lines.people);

@@ -1,7 +1,5 @@
 #include "authoring/csvfile.h"
 
-#include "base/text.h"
-
 #include <csv.h>
 #include <utility>
 
@@ -40,7 +38,11 @@ void takerecord(int, void* parsing)
 
 class Parser {
 public:
-    Parser() { csv_init(&parser_, CSV_STRICT | CSV_STRICT_FINI); }
+    explicit Parser(char separator) : separator_(separator)
+    {
+        csv_init(&parser_, CSV_STRICT | CSV_STRICT_FINI);
+        csv_set_delim(&parser_, static_cast<unsigned char>(separator));
+    }
     ~Parser() { csv_free(&parser_); }
     Parser(const Parser&) = delete;
     Parser& operator=(const Parser&) = delete;
@@ -52,7 +54,8 @@ public:
         char before = '\0';
         for (const char c : text) {
             const bool linebreak = c == '\n' || c == '\r';
-            if (parsing_.record.line == 0 && !linebreak && blanks.find(c) == std::string_view::npos) {
+            const bool blank = blanks.find(c) != std::string_view::npos && c != separator_;
+            if (parsing_.record.line == 0 && !linebreak && !blank) {
                 parsing_.record.line = line;
             }
             if (csv_parse(&parser_, &c, 1, takefield, takerecord, &parsing_) != 1) {
@@ -74,15 +77,16 @@ private:
         return std::move(parsing_.table);
     }
 
+    char separator_;
     csv_parser parser_{};
     Parsing parsing_;
 };
 
 } // namespace
 
-CsvTable parsecsv(std::string_view text)
+CsvTable parsecsv(std::string_view text, char separator)
 {
-    return Parser().parse(withoutmark(text));
+    return Parser(separator).parse(text);
 }
 
 std::string csvline(const std::vector<std::string>& fields)

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-// Comma separated values as spreadsheets save them: quotes where needed, line breaks of any kind.
+// Separated values as spreadsheets save them: quotes where needed, line breaks of any kind.
 namespace brindor::authoring {
 
 struct CsvRecord {
@@ -26,10 +26,10 @@ struct CsvTable {
     std::optional<CsvFault> fault; // records end before it
 };
 
-// Empty lines and a byte order mark are skipped. A record whose fields are all empty is kept.
-CsvTable parsecsv(std::string_view text);
+// Empty lines are skipped. A record whose fields are all empty is kept.
+CsvTable parsecsv(std::string_view text, char separator);
 
-// One record as a line, ended by a line feed.
+// One record as a line with commas, ended by a line feed.
 std::string csvline(const std::vector<std::string>& fields);
 
 } // namespace brindor::authoring

@@ -3,15 +3,23 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <map>
+#include <string_view>
 
 namespace brindor::authoring {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> words = {": error: ", ": warning: ", ": note: "}; // by Severity
+
+} // namespace
 
 std::string findingline(const Finding& finding)
 {
     const std::string line = finding.line > 0 ? ':' + numbertext(finding.line) : std::string();
-    return finding.file + line + (finding.severity == Severity::error ? ": error: " : ": warning: ") + finding.text;
+    return finding.file + line + std::string(words[static_cast<std::size_t>(finding.severity)]) + finding.text;
 }
 
 bool haserrors(const Findings& findings)

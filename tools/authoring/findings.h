@@ -7,7 +7,8 @@
 // What the tools have to say about a file.
 namespace brindor::authoring {
 
-enum class Severity { error, warning };
+// An error keeps a timeline from being made, a warning tells of what spoils questions, a note of what is worth a look.
+enum class Severity { error, warning, note };
 
 struct Finding {
     Severity severity = Severity::error;

@@ -1,35 +1,34 @@
 #include "authoring/folder.h"
 
-#include "base/files.h"
+#include "authoring/csvfile.h"
+#include "authoring/table.h"
+#include "authoring/values.h"
+#include "authoring/words.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
+#include <optional>
+#include <span>
 #include <utility>
 
 namespace brindor::authoring {
 
 namespace {
 
-constexpr std::size_t largestfile = 64U << 20U; // bytes
-constexpr std::size_t fewestpeoplefields = peoplecolumns.size();
-constexpr std::size_t feweventfields = 9; // up to nation1; some spreadsheets leave empty fields at a row's end out
+constexpr std::size_t longesttext = 1000; // bytes
+constexpr std::string_view byteordermark = "\xEF\xBB\xBF";
 
 std::string inquotes(std::string_view text)
 {
     return '"' + std::string(text) + '"';
 }
 
-std::string columnlist(std::span<const std::string_view> columns)
+bool iscontrol(char c)
 {
-    std::string list;
-    for (const std::string_view column : columns) {
-        list += list.empty() ? "" : ",";
-        list += column;
-    }
-    return list;
+    const auto byte = static_cast<unsigned char>(c);
+    return byte < 0x20 || byte == 0x7F;
 }
 
 // One row being read: each field is asked for by its column's name, and what is wrong with it goes to the findings.
@@ -44,11 +43,14 @@ public:
 
     std::string text(std::string_view column)
     {
-        std::string text = field(column);
-        if (!isutf8(text)) {
-            refuse(column, "the text is not UTF-8; save the file with the character set UTF-8");
-        } else if (text.find_first_of("\r\n") != std::string::npos) {
+        const std::string text = field(column);
+        if (text.find_first_of("\r\n") != std::string::npos) {
             refuse(column, "the text holds a line break; it must be one line");
+        } else if (std::any_of(text.begin(), text.end(), iscontrol)) {
+            refuse(column, "the text holds a character that cannot be shown; type the text anew");
+        } else if (text.size() > longesttext) {
+            refuse(column, "a text of " + numbertext(static_cast<std::int64_t>(text.size())) +
+                               " bytes is more than any screen shows");
         }
         return text;
     }
@@ -56,43 +58,49 @@ public:
     std::int16_t year(std::string_view column)
     {
         const std::string text = field(column);
-        const std::optional<std::int64_t> number = wholenumber(text);
-        if (!number) {
-            refuse(column, text.empty() ? "a year is missing" : inquotes(text) + " is not a whole number");
-            return 0;
-        }
-        const std::optional<std::int16_t> fitting = toint16(*number);
-        if (!fitting) {
-            refuse(column, inquotes(text) + ' ' + std::string(outside16));
-        }
-        return fitting.value_or(std::int16_t{0});
+        return text.empty() ? (refuse(column, "a year is missing"), std::int16_t{0}) : taken(column, yearof(text));
     }
 
-    std::int16_t kind(std::string_view column)
-    {
-        const std::string text = field(column);
-        const auto found = std::find(kindwords.begin(), kindwords.end(), text);
-        if (found == kindwords.end()) {
-            refuse(column, inquotes(text) + " is no kind of date; leave it empty or write ca. or reign");
-            return known;
-        }
-        return index16(found - kindwords.begin());
-    }
+    std::int16_t kind(std::string_view column) { return taken(column, datekindof(field(column))); }
 
     std::optional<double> degrees(std::string_view column, double limit)
     {
         const std::string text = field(column);
-        if (text.empty()) {
-            return std::nullopt;
+        return text.empty() ? std::nullopt : std::optional(taken(column, degreesof(text, limit)));
+    }
+
+    std::int16_t fame(std::string_view column)
+    {
+        const std::string text = field(column);
+        const std::optional<std::int64_t> number = wholenumber(text);
+        if (!text.empty() && (!number || *number < 1 || *number > 5)) {
+            refuse(column, inquotes(text) + " is no fame; write 1 (everyone has heard of it) to 5 (specialists)");
         }
-        double number = 0;
-        const char* end = text.data() + text.size();
-        const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
-        if (result.ec != std::errc() || result.ptr != end || !(number >= -limit && number <= limit)) {
-            refuse(column, inquotes(text) + " is no number of degrees from " + decimaltext(-limit) + " to " +
-                               decimaltext(limit) + ", as 50.91");
+        return index16(number.value_or(0));
+    }
+
+    bool yes(std::string_view column)
+    {
+        const std::string text = folded(field(column));
+        if (!text.empty() && text != "yes" && text != "no") {
+            refuse(column, inquotes(text) + " is neither yes nor no");
         }
-        return number;
+        return text == "yes";
+    }
+
+    // Texts joined by semicolons.
+    std::vector<std::string> parts(std::string_view column)
+    {
+        std::vector<std::string> found;
+        const std::string text = field(column);
+        for (std::string_view rest = text; !rest.empty();) {
+            const std::size_t end = std::min(rest.find(';'), rest.size());
+            if (std::string part = plain(rest.substr(0, end)); !part.empty()) {
+                found.push_back(std::move(part));
+            }
+            rest.remove_prefix(std::min(end + 1, rest.size()));
+        }
+        return found;
     }
 
     bool empty(std::string_view column) const { return field(column).empty(); }
@@ -104,12 +112,16 @@ public:
     }
 
 private:
-    std::string field(std::string_view column) const
+    template <class T>
+    T taken(std::string_view column, const Result<T>& value)
     {
-        const auto at = std::find(source_.columns.begin(), source_.columns.end(), column) - source_.columns.begin();
-        const auto index = static_cast<std::size_t>(at);
-        return index < record_.fields.size() ? record_.fields[index] : std::string();
+        if (!value) {
+            refuse(column, value.reason);
+        }
+        return value.value.value_or(T{});
     }
+
+    std::string field(std::string_view column) const { return fieldof(source_, record_, column); }
 
     const Source& source_;
     const CsvRecord& record_;
@@ -128,12 +140,15 @@ void readitem(Row& row, const CsvRecord& record, ItemForm& form)
     form.datetype2 = single && row.empty("kind2") ? form.datetype1 : row.kind("kind2");
     form.desc1 = row.text("desc1");
     form.desc2 = row.text("desc2");
+    form.fame = row.fame("fame");
+    form.sources = row.parts("source");
 }
 
 void readown(Row& row, PersonForm& form)
 {
     form.faction = row.text("faction");
     form.occupation = row.text("occupation");
+    form.woman = row.yes("woman");
 }
 
 void readown(Row& row, EventForm& form)
@@ -159,28 +174,17 @@ bool iswithoutcontent(const CsvRecord& record)
                        [](const std::string& field) { return field.empty(); });
 }
 
-// Empty fields behind the last column don't matter.
-bool rightlength(const CsvRecord& record, std::size_t fewest, std::size_t columns)
-{
-    const auto behind = record.fields.begin() + static_cast<std::ptrdiff_t>(std::min(columns, record.fields.size()));
-    return record.fields.size() >= fewest &&
-           std::all_of(behind, record.fields.end(), [](const std::string& field) { return field.empty(); });
-}
-
 template <class Form>
-std::vector<Form> readrecords(const Source& source, std::size_t fewest, Findings& findings)
+std::vector<Form> readrecords(Source& source, std::span<const Column> columns, Findings& findings)
 {
     std::vector<Form> forms;
-    const std::optional<std::vector<CsvRecord>> records = readtable(source, findings);
-    for (const CsvRecord& record : records ? *records : std::vector<CsvRecord>()) {
+    const std::optional<Table> table = readtable(source.file, columns, findings);
+    if (!table) {
+        return forms;
+    }
+    source = table->source;
+    for (const CsvRecord& record : table->records) {
         if (iswithoutcontent(record)) {
-            continue;
-        }
-        if (!rightlength(record, fewest, source.columns.size())) {
-            findings.push_back({Severity::error, source.file, record.line,
-                                numbertext(static_cast<std::int64_t>(record.fields.size())) + " fields where " +
-                                    numbertext(static_cast<std::int64_t>(source.columns.size())) +
-                                    " belong; a text with a comma in it must stand in quotes"});
             continue;
         }
         Row row(source, record, findings);
@@ -198,6 +202,36 @@ std::vector<Form> readrecords(const Source& source, std::size_t fewest, Findings
     return forms;
 }
 
+// As a date stands in the file: an empty second date is the first one again.
+std::vector<std::string> itemfields(const ItemForm& form)
+{
+    const auto kind = [](std::int16_t number) {
+        const bool proper = number >= 0 && static_cast<std::size_t>(number) < kindwords.size();
+        return proper ? std::string(kindwords[static_cast<std::size_t>(number)]) : numbertext(number);
+    };
+    const bool single = form.date2 == form.date1 && form.datetype2 == form.datetype1;
+    return {form.name,
+            numbertext(form.date1),
+            kind(form.datetype1),
+            single ? "" : numbertext(form.date2),
+            single ? "" : kind(form.datetype2),
+            form.desc1,
+            form.desc2};
+}
+
+std::string csvtext(std::span<const Column> columns, const std::vector<std::vector<std::string>>& rows)
+{
+    std::vector<std::string> headings;
+    for (const Column& column : columns) {
+        headings.emplace_back(column.name);
+    }
+    std::string text = std::string(byteordermark) + csvline(headings);
+    for (const std::vector<std::string>& row : rows) {
+        text += csvline(row);
+    }
+    return text;
+}
+
 } // namespace
 
 std::string inside(const std::string& folder, std::string_view name)
@@ -205,59 +239,44 @@ std::string inside(const std::string& folder, std::string_view name)
     return folder.empty() ? std::string(name) : folder + (folder.back() == '/' ? "" : "/") + std::string(name);
 }
 
-std::optional<std::vector<CsvRecord>> readtable(const Source& source, Findings& findings)
-{
-    const Result<std::string> content = readwhole(source.file, largestfile);
-    if (!content) {
-        findings.push_back({Severity::error, source.file, 0, "cannot be read: " + content.reason});
-        return std::nullopt;
-    }
-    CsvTable table = parsecsv(*content.value);
-    const std::string wanted = columnlist(source.columns);
-    if (table.records.empty() && !table.fault) {
-        findings.push_back({Severity::error, source.file, 1, "the file is empty; its first row must be " + wanted});
-        return std::nullopt;
-    }
-    if (table.fault) {
-        const std::size_t column = table.fault->column;
-        const bool named = column <= source.columns.size();
-        const std::string where = named ? source.field(source.columns[column - 1])
-                                        : "column " + numbertext(static_cast<std::int64_t>(column));
-        findings.push_back({Severity::error, source.file, table.fault->line, where + ": " + table.fault->text});
-        if (table.records.empty()) {
-            return std::nullopt;
-        }
-    }
-    const CsvRecord& header = table.records.front();
-    const bool same = rightlength(header, source.columns.size(), source.columns.size()) &&
-                      std::equal(source.columns.begin(), source.columns.end(), header.fields.begin());
-    if (!same) {
-        const bool semicolons = header.fields.size() == 1 && header.fields.front().find(';') != std::string::npos;
-        findings.push_back({Severity::error, source.file, header.line,
-                            "the first row must be " + wanted +
-                                (semicolons ? "; save the file with commas between the columns, not semicolons" : "")});
-        return std::nullopt;
-    }
-    table.records.erase(table.records.begin());
-    return std::move(table.records);
-}
-
 Forms readevents(const std::string& folder, Findings& findings)
 {
     Forms forms;
-    forms.eventsource = {inside(folder, eventsfile), eventcolumns};
-    forms.events = readrecords<EventForm>(forms.eventsource, feweventfields, findings);
+    forms.eventsource.file = inside(folder, eventsfile);
+    forms.events = readrecords<EventForm>(forms.eventsource, eventcolumns, findings);
     return forms;
 }
 
 Forms readfolder(const std::string& folder, Findings& findings)
 {
-    const Source peoplesource{inside(folder, peoplefile), peoplecolumns};
-    std::vector<PersonForm> people = readrecords<PersonForm>(peoplesource, fewestpeoplefields, findings);
+    Source peoplesource{inside(folder, peoplefile), {}};
+    std::vector<PersonForm> people = readrecords<PersonForm>(peoplesource, peoplecolumns, findings);
     Forms forms = readevents(folder, findings);
-    forms.peoplesource = peoplesource;
+    forms.peoplesource = std::move(peoplesource);
     forms.people = std::move(people);
     return forms;
+}
+
+std::string peopletext(const Forms& forms)
+{
+    std::vector<std::vector<std::string>> rows;
+    for (const PersonForm& form : forms.people) {
+        rows.push_back(itemfields(form));
+        rows.back().insert(rows.back().end(), {form.faction, form.occupation});
+    }
+    return csvtext(std::span(peoplecolumns).first(writtenpeoplecolumns), rows);
+}
+
+std::string eventstext(const Forms& forms)
+{
+    std::vector<std::vector<std::string>> rows;
+    for (const EventForm& form : forms.events) {
+        rows.push_back(itemfields(form));
+        rows.back().insert(
+            rows.back().end(),
+            {form.group, form.nation1, form.nation2 == form.nation1 ? "" : form.nation2, "", "", "", form.picture});
+    }
+    return csvtext(std::span(eventcolumns).first(writteneventcolumns), rows);
 }
 
 } // namespace brindor::authoring

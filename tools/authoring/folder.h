@@ -1,12 +1,12 @@
 #pragma once
 
-#include "authoring/csvfile.h"
 #include "authoring/findings.h"
 #include "authoring/forms.h"
 
-#include <optional>
 #include <string>
+#include <string_view>
 
+// The two spreadsheets of a folder, people.csv and events.csv, read and written.
 namespace brindor::authoring {
 
 // "folder/name"; the bare name for an empty folder.
@@ -19,8 +19,9 @@ Forms readfolder(const std::string& folder, Findings& findings);
 // The same for one of the two files; the other's records stay empty.
 Forms readevents(const std::string& folder, Findings& findings);
 
-// The records of a CSV file whose header row must be `columns`. Rows behind a fault are missing. Nothing where the
-// file can't be read or its header is another.
-std::optional<std::vector<CsvRecord>> readtable(const Source& source, Findings& findings);
+// The forms as the texts of people.csv and events.csv, with a byte order mark, which some spreadsheets need to read
+// UTF-8.
+std::string peopletext(const Forms& forms);
+std::string eventstext(const Forms& forms);
 
 } // namespace brindor::authoring

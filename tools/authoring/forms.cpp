@@ -16,13 +16,23 @@ bool earlier(const ItemForm& a, const ItemForm& b)
 
 } // namespace
 
+bool Source::has(std::string_view column) const
+{
+    return std::find(headings.begin(), headings.end(), column) != headings.end();
+}
+
 std::string Source::field(std::string_view column) const
 {
-    const auto found = std::find(columns.begin(), columns.end(), column);
-    if (found == columns.end()) {
+    const auto found = std::find(headings.begin(), headings.end(), column);
+    if (found == headings.end()) {
         return std::string(column);
     }
-    return "column " + numbertext(found - columns.begin() + 1) + " (" + std::string(column) + ')';
+    return "column " + numbertext(found - headings.begin() + 1) + " (" + std::string(column) + ')';
+}
+
+std::string counttext(std::size_t count, std::string_view one, std::string_view more)
+{
+    return numbertext(static_cast<std::int64_t>(count)) + ' ' + std::string(count == 1 ? one : more);
 }
 
 void sortforms(Forms& forms)

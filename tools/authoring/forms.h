@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,11 +17,43 @@ namespace brindor::authoring {
 inline constexpr std::string_view peoplefile = "people.csv";
 inline constexpr std::string_view eventsfile = "events.csv";
 
-inline constexpr std::array<std::string_view, 9> peoplecolumns = {"name",  "date1", "kind1",   "date2",     "kind2",
-                                                                  "desc1", "desc2", "faction", "occupation"};
-inline constexpr std::array<std::string_view, 14> eventcolumns = {
-    "name",  "date1",   "kind1",   "date2", "kind2",    "desc1",     "desc2",
-    "group", "nation1", "nation2", "place", "latitude", "longitude", "picture"};
+struct Column {
+    std::string_view name;
+    bool needed = false; // the file can't be read without it
+};
+
+// In the order in which the tools write them. Those from `woman` on stay in the spreadsheets: a timeline file does
+// not carry them.
+inline constexpr std::array<Column, 12> peoplecolumns = {{{"name", true},
+                                                          {"date1", true},
+                                                          {"kind1"},
+                                                          {"date2"},
+                                                          {"kind2"},
+                                                          {"desc1", true},
+                                                          {"desc2"},
+                                                          {"faction", true},
+                                                          {"occupation", true},
+                                                          {"woman"},
+                                                          {"fame"},
+                                                          {"source"}}};
+inline constexpr std::array<Column, 16> eventcolumns = {{{"name", true},
+                                                         {"date1", true},
+                                                         {"kind1"},
+                                                         {"date2"},
+                                                         {"kind2"},
+                                                         {"desc1", true},
+                                                         {"desc2"},
+                                                         {"group", true},
+                                                         {"nation1", true},
+                                                         {"nation2"},
+                                                         {"place"},
+                                                         {"latitude"},
+                                                         {"longitude"},
+                                                         {"picture"},
+                                                         {"fame"},
+                                                         {"source"}}};
+inline constexpr std::size_t writtenpeoplecolumns = 9;
+inline constexpr std::size_t writteneventcolumns = 14;
 
 inline constexpr std::array<std::string_view, 3> kindwords = {"", "ca.", "reign"}; // by DateKind
 
@@ -31,11 +62,14 @@ struct ItemForm : Dates {
     std::string name;
     std::string desc1;
     std::string desc2;
+    std::int16_t fame = 0;            // 1, everyone has heard of it, to 5, specialists; 0 where it is not given
+    std::vector<std::string> sources; // short keys, or "memory"
 };
 
 struct PersonForm : ItemForm {
     std::string faction;
     std::string occupation;
+    bool woman = false;
 };
 
 struct EventForm : ItemForm {
@@ -51,9 +85,11 @@ struct EventForm : ItemForm {
 // Where forms come from, for findings about them.
 struct Source {
     std::string file;
-    std::span<const std::string_view> columns; // empty where the fields have no columns
+    std::vector<std::string> headings; // of the columns, in the file's order; empty where the fields have no columns
 
-    // "column 4 (date2)", or "date2" where there are no columns.
+    bool has(std::string_view column) const;
+
+    // "column 4 (date2)", or "date2" where there is no such column.
     std::string field(std::string_view column) const;
 };
 
@@ -63,6 +99,9 @@ struct Forms {
     std::vector<PersonForm> people;
     std::vector<EventForm> events;
 };
+
+// "1 person", "40 people"
+std::string counttext(std::size_t count, std::string_view one, std::string_view more);
 
 // Puts the records into the order of the timeline file: by first date, second date, name.
 void sortforms(Forms& forms);

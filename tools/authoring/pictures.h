@@ -2,14 +2,14 @@
 
 #include "authoring/findings.h"
 #include "authoring/forms.h"
-#include "base/result.h"
+#include "authoring/writing.h"
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <vector>
 
-// The pictures of events: maps, which mapmaker draws under maps/, and pictures of one's own.
+// The pictures of events: maps, which mapmaker draws, and pictures of one's own. All pictures of a timeline lie in a
+// folder of its own beside it: those of Medieval.bd3 in medieval/, its maps in medieval/maps/.
 namespace brindor::authoring {
 
 inline constexpr std::int16_t mapwidth = 640; // pixels
@@ -21,28 +21,33 @@ struct EventPicture {
     std::int16_t height = 0;
 };
 
-// Whether the picture is a map of the place, drawn by mapmaker.
-bool ismap(const std::string& picture);
-
 bool hasplace(const EventForm& form);
 
-// What the maps of a timeline file begin with: "medieval" for "game/Medieval.bd3".
+// Whether mapmaker draws the event's picture: it has a place and no picture of its own.
+bool isdrawn(const EventForm& form);
+
+// What the folder of a timeline's pictures is called: "medieval" for "game/Medieval.bd3" and for "Medieval".
 std::string mapprefix(const std::string& timelinefile);
 
-// The pictures' names, in the order of the events: the one that is given, else "maps/PREFIX-battle-of-hastings.png"
-// where the event has a place, else none. No two maps get one name.
+// The pictures' names relative to the timeline file, in the order of the events: "medieval/maps/battle-of-hastings.png"
+// for one that is drawn, "medieval/" and the given name for one's own, else none. No two maps get one name.
 std::vector<std::string> picturenames(const std::vector<EventForm>& events, const std::string& prefix);
 
-// The pictures with their sizes in pixels. Pictures of one's own are looked for in the folders in order; one that is
-// missing or can't be read is an error. A map is looked for only if `mapsneeded` and its event has no place.
-std::vector<EventPicture> findpictures(const Forms& forms, const std::string& prefix,
-                                       std::span<const std::string> folders, bool mapsneeded, Findings& findings);
+// The pictures of the spreadsheets in a folder, with their sizes in pixels as they are shown. One's own that are missing
+// or can't be shown are errors; what spoils a picture is a warning.
+std::vector<EventPicture> findpictures(const Forms& forms, const std::string& prefix, const std::string& folder,
+                                       Findings& findings);
 
-// Copies those of the named pictures that lie in `from` to `into`, with their folders. A picture that is the same in
-// both is left alone, and so is a name that leads out of the folder.
-Result<Done> copypictures(const std::vector<EventPicture>& pictures, const std::string& from, const std::string& into);
+// Looks for the pictures that a timeline file names.
+void checkpictures(const Forms& forms, const std::string& timelinefile, Findings& findings);
 
-// "game" for "game/Medieval.bd3"; empty for a bare name.
-std::string folderof(const std::string& path);
+// Adds one's own pictures of the spreadsheets in a folder to what is written beside a timeline file.
+void takepictures(const std::vector<EventForm>& events, const std::string& folder, const std::string& timelinefile,
+                  Writing& writing, Findings& findings);
+
+// The other way: gives the events of a timeline file the pictures' names for spreadsheets, and adds the pictures that
+// are there to what is written into their folder.
+void takeback(Forms& forms, const std::string& timelinefile, const std::string& folder, Writing& writing,
+              Findings& findings);
 
 } // namespace brindor::authoring

@@ -1,14 +1,14 @@
 #include "authoring/summary.h"
 
+#include "authoring/commands.h"
 #include "authoring/folder.h"
-#include "authoring/pictures.h"
+#include "authoring/table.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -20,17 +20,16 @@ namespace brindor::authoring {
 
 namespace {
 
-constexpr std::array<std::string_view, 2> regioncolumns = {"name", "region"};
-constexpr std::array<std::string_view, 1> womencolumns = {"name"};
-constexpr std::array<std::string_view, 1> rulercolumns = {"occupation"};
+constexpr std::array<Column, 2> regioncolumns = {{{"name", true}, {"region", true}}};
+constexpr std::array<Column, 1> rulercolumns = {{{"occupation", true}}};
 constexpr const char* notgiven = "not given";
 
 using Counts = std::map<std::string, std::int64_t>;
 
+// What the files beside a timeline's folder say.
 struct Sides {
     std::optional<std::map<std::string, std::string>> regions; // by faction or nation
-    std::optional<std::set<std::string>> women;
-    std::optional<std::set<std::string>> rulers;
+    std::optional<std::set<std::string>> rulers;               // occupations
 };
 
 struct Balance {
@@ -45,40 +44,33 @@ struct Balance {
     Counts occupations;
     Counts groups;
     Counts nations;
+    std::optional<Counts> fame; // records of both families by "1" to "5" and "not given"
+    std::optional<Counts> sources;
+
+    std::int64_t records() const { return people + events; }
 };
 
 // A side file is optional; one that stands there must be right.
-std::optional<std::vector<CsvRecord>> readside(const std::string& file, std::span<const std::string_view> columns,
-                                               Findings& findings)
+std::optional<Table> readside(const std::string& file, std::span<const Column> columns, Findings& findings)
 {
-    return isregularfile(file) ? readtable({file, columns}, findings) : std::nullopt;
-}
-
-std::optional<std::set<std::string>> readnames(const std::string& file, std::span<const std::string_view> columns,
-                                               Findings& findings)
-{
-    const auto records = readside(file, columns, findings);
-    if (!records) {
-        return std::nullopt;
-    }
-    std::set<std::string> names;
-    for (const CsvRecord& record : *records) {
-        names.insert(record.fields.front());
-    }
-    return names;
+    return isregularfile(file) ? readtable(file, columns, findings) : std::nullopt;
 }
 
 Sides readsides(const std::string& folder, Findings& findings)
 {
     Sides sides;
-    if (const auto records = readside(inside(folder, "../regions.csv"), regioncolumns, findings)) {
+    if (const auto table = readside(inside(folder, "../regions.csv"), regioncolumns, findings)) {
         sides.regions.emplace();
-        for (const CsvRecord& record : *records) {
-            (*sides.regions)[record.fields.front()] = record.fields.size() > 1 ? record.fields[1] : std::string();
+        for (const CsvRecord& record : table->records) {
+            (*sides.regions)[fieldof(table->source, record, "name")] = fieldof(table->source, record, "region");
         }
     }
-    sides.women = readnames(inside(folder, "women.csv"), womencolumns, findings);
-    sides.rulers = readnames(inside(folder, "rulers.csv"), rulercolumns, findings);
+    if (const auto table = readside(inside(folder, "../rulers.csv"), rulercolumns, findings)) {
+        sides.rulers.emplace();
+        for (const CsvRecord& record : table->records) {
+            sides.rulers->insert(fieldof(table->source, record, "occupation"));
+        }
+    }
     return sides;
 }
 
@@ -96,48 +88,55 @@ std::optional<Counts> countregions(const std::vector<Form>& forms, std::string F
     return counts;
 }
 
-std::optional<std::int64_t> countmembers(const std::vector<PersonForm>& forms, std::string PersonForm::*field,
-                                         const std::optional<std::set<std::string>>& names)
+constexpr const char* lookedup = "looked up";
+constexpr const char* frommemory = "from memory";
+
+void countrecord(const ItemForm& form, Counts& fame, Counts& sources)
 {
-    if (!names) {
-        return std::nullopt;
-    }
-    return std::count_if(forms.begin(), forms.end(),
-                         [&](const PersonForm& form) { return names->contains(form.*field); });
+    ++fame[form.fame == 0 ? notgiven : numbertext(form.fame)];
+    const bool memory = std::all_of(form.sources.begin(), form.sources.end(),
+                                    [](const std::string& source) { return source == "memory"; });
+    ++sources[form.sources.empty() ? notgiven : memory ? frommemory : lookedup];
 }
 
-// A name in a side file that no record has is a slip of the pen.
-void reportstrangers(const std::string& file, const std::optional<std::set<std::string>>& names,
-                     const std::set<std::string>& known, Findings& findings)
+void countrecords(const Forms& forms, Balance& balance)
 {
-    for (const std::string& name : names.value_or(std::set<std::string>())) {
-        if (!known.contains(name)) {
-            findings.push_back({Severity::warning, file, 0, '"' + name + "\" does not stand in people.csv"});
-        }
+    Counts fame;
+    Counts sources;
+    for (const PersonForm& form : forms.people) {
+        countrecord(form, fame, sources);
     }
+    for (const EventForm& form : forms.events) {
+        countrecord(form, fame, sources);
+    }
+    const auto given = [&forms](std::string_view column) {
+        return forms.peoplesource.has(column) || forms.eventsource.has(column);
+    };
+    balance.fame = given("fame") ? std::optional(fame) : std::nullopt;
+    balance.sources = given("source") ? std::optional(sources) : std::nullopt;
 }
 
-Balance balanceof(std::string folder, Findings& findings)
+Balance balanceof(const std::string& folder, Findings& findings)
 {
-    while (folder.size() > 1 && folder.ends_with('/')) {
-        folder.pop_back();
-    }
     const Forms forms = readfolder(folder, findings);
     const Sides sides = readsides(folder, findings);
     Balance balance;
-    balance.title = folder.substr(folder.find_last_of('/') + 1);
-    if (!balance.title.empty()) {
-        balance.title.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(balance.title.front())));
-    }
+    balance.title = titleof(folder);
     balance.people = static_cast<std::int64_t>(forms.people.size());
     balance.events = static_cast<std::int64_t>(forms.events.size());
     balance.peopleregions = countregions(forms.people, &PersonForm::faction, sides);
     balance.eventregions = countregions(forms.events, &EventForm::nation1, sides);
-    balance.women = countmembers(forms.people, static_cast<std::string PersonForm::*>(&ItemForm::name), sides.women);
-    balance.rulers = countmembers(forms.people, &PersonForm::occupation, sides.rulers);
-    std::set<std::string> names;
+    if (forms.peoplesource.has("woman")) {
+        balance.women = std::count_if(forms.people.begin(), forms.people.end(),
+                                      [](const PersonForm& form) { return form.woman; });
+    }
+    if (sides.rulers) {
+        balance.rulers = std::count_if(forms.people.begin(), forms.people.end(), [&sides](const PersonForm& form) {
+            return sides.rulers->contains(form.occupation);
+        });
+    }
+    countrecords(forms, balance);
     for (const PersonForm& form : forms.people) {
-        names.insert(form.name);
         ++balance.factions[form.faction];
         ++balance.occupations[form.occupation];
     }
@@ -147,12 +146,6 @@ Balance balanceof(std::string folder, Findings& findings)
             ++balance.nations[nation];
         }
     }
-    std::set<std::string> occupationnames;
-    for (const auto& [name, count] : balance.occupations) {
-        occupationnames.insert(name);
-    }
-    reportstrangers(inside(folder, "women.csv"), sides.women, names, findings);
-    reportstrangers(inside(folder, "rulers.csv"), sides.rulers, occupationnames, findings);
     return balance;
 }
 
@@ -186,9 +179,9 @@ std::string listsize(const Counts& counts)
     return numbertext(static_cast<std::int64_t>(counts.size())) + ", " + numbertext(once) + " used once";
 }
 
-class Table {
+class Columns {
 public:
-    explicit Table(const std::vector<Balance>& balances) : balances_(balances)
+    explicit Columns(const std::vector<Balance>& balances) : balances_(balances)
     {
         row("", [](const Balance& balance) { return balance.title; });
         text_ += "|---|";
@@ -242,7 +235,7 @@ std::string summarytable(const std::vector<std::string>& folders, Findings& find
     for (const std::string& folder : folders) {
         balances.push_back(balanceof(folder, findings));
     }
-    Table table(balances);
+    Columns table(balances);
     table.row("People", [](const Balance& b) { return numbertext(b.people); });
     table.rows(
         "People of", [](const Balance& b) { return b.peopleregions; }, &Balance::people);
@@ -257,6 +250,22 @@ std::string summarytable(const std::vector<std::string>& folders, Findings& find
         "Kind", [](const Balance& b) { return std::optional(b.groups); }, &Balance::events);
     table.row("Kinds", [](const Balance& b) { return listsize(b.groups); });
     table.row("Nations", [](const Balance& b) { return listsize(b.nations); });
+    for (const char* source : {lookedup, frommemory, notgiven}) {
+        table.row("Sources: " + std::string(source),
+                  [source](const Balance& b) { return share(b.sources, source, b.records()); });
+    }
+    for (const char* fame : {"1", "2", "3", "4", "5", notgiven}) {
+        table.row("Fame: " + std::string(fame),
+                  [fame](const Balance& b) { return share(b.fame, fame, b.records()); });
+    }
+    table.row("Fame: 1 to 3", [](const Balance& b) {
+        std::optional<std::int64_t> known;
+        for (const char* fame : {"1", "2", "3"}) {
+            const auto found = b.fame ? b.fame->find(fame) : Counts::const_iterator();
+            known = b.fame ? std::optional(known.value_or(0) + (found == b.fame->end() ? 0 : found->second)) : known;
+        }
+        return share(known, b.records());
+    });
     return table.text();
 }
 

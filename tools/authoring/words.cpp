@@ -7,6 +7,11 @@
 #include <cstddef>
 #include <iterator>
 #include <map>
+#include <memory>
+#include <numeric>
+#include <unicode/translit.h>
+#include <unicode/unistr.h>
+#include <utility>
 
 namespace brindor::authoring {
 
@@ -15,83 +20,38 @@ namespace {
 constexpr std::size_t fewestletters = 4;
 constexpr std::size_t longestslug = 80;
 
-struct Plain {
-    std::string_view plain;
-    std::string_view letters;
-};
-
-constexpr std::array<Plain, 32> plains = {{
-    {"a", "ÀÁÂÃÄÅĀĂĄǍàáâãäåāăąǎẠạẢảẤấẦầẨẩẪẫẬậẮắẰằẲẳẴẵẶặ"},
-    {"ae", "Ææ"},
-    {"b", "Ḇḇ"},
-    {"c", "ÇĆĈĊČçćĉċč"},
-    {"d", "ĎĐÐďđðḌḍḎḏ"},
-    {"e", "ÈÉÊËĒĔĖĘĚèéêëēĕėęěẸẹẺẻẼẽẾếỀềỂểỄễỆệ"},
-    {"g", "ĜĞĠĢǦĝğġģǧ"},
-    {"h", "ĤĦĥħḤḥḪḫ"},
-    {"i", "ÌÍÎÏĨĪĬĮİìíîïĩīĭįıǏǐỈỉỊị"},
-    {"j", "Ĵĵ"},
-    {"k", "ĶķḲḳḴḵ"},
-    {"l", "ĹĻĽĿŁĺļľŀłḷ"},
-    {"m", "Ṃṃ"},
-    {"n", "ÑŃŅŇÑñńņňṄṅṆṇ"},
-    {"o", "ÒÓÔÕÖØŌŎŐòóôõöøōŏőǑǒƠơỌọỎỏỐốỒồỔổỖỗỘộỚớỜờỞởỠỡỢợ"},
-    {"oe", "Œœ"},
-    {"r", "ŔŖŘŕŗřṚṛ"},
-    {"s", "ŚŜŞŠȘśŝşšșṢṣ"},
-    {"ss", "ß"},
-    {"t", "ŢŤŦȚţťŧțṬṭ"},
-    {"th", "Þþ"},
-    {"u", "ÙÚÛÜŨŪŬŮŰŲùúûüũūŭůűųǓǔƯưỤụỦủỨứỪừỬửỮữỰự"},
-    {"v", "Ṿṿ"},
-    {"w", "Ŵŵ"},
-    {"y", "ÝŶŸýŷÿỲỳỴỵỶỷỸỹ"},
-    {"z", "ŹŻŽźżžẒẓ"},
-    {"", "ʿʾʼʻʹ"},
-    {"'", "‘’"},
-    {"-", "‐‑–—"},
-    {"\"", "“”„«»"},
-    {".", "…"},
-    {" ", "\xC2\xA0"}, // the blank that does not break
-}};
-
 constexpr std::array<std::string_view, 30> commonwords = {
     "after",    "battle", "council",    "duke",  "dynasty", "emperor", "empire", "empress", "first", "foundation",
     "founding", "from",   "great",      "into",  "king",    "kingdom", "over",   "peace",   "pope",  "prince",
     "princess", "queen",  "revolution", "saint", "second",  "siege",   "third",  "treaty",  "with",  "year"};
 
-// The characters of a UTF-8 text, one by one.
-template <class Act>
-void eachcharacter(std::string_view text, Act act)
+// A text put through ICU's rules; as it is where the library lacks its data.
+std::string put(std::string_view text, const char16_t* rules)
 {
-    const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
-    for (std::size_t at = 0; at < text.size();) {
-        std::size_t end = at + 1;
-        while (end < text.size() && continues(text[end])) {
-            ++end;
-        }
-        act(text.substr(at, end - at));
-        at = end;
+    static std::map<const char16_t*, std::unique_ptr<icu::Transliterator>> made;
+    std::unique_ptr<icu::Transliterator>& through = made[rules];
+    if (!through) {
+        UErrorCode status = U_ZERO_ERROR;
+        UParseError place;
+        through.reset(icu::Transliterator::createFromRules("", rules, UTRANS_FORWARD, place, status));
     }
+    icu::UnicodeString characters = icu::UnicodeString::fromUTF8({text.data(), static_cast<int32_t>(text.size())});
+    if (through) {
+        through->transliterate(characters);
+    }
+    std::string result;
+    return characters.toUTF8String(result);
 }
 
-const std::map<std::string_view, std::string_view>& plainforms()
-{
-    static const std::map<std::string_view, std::string_view> forms = [] {
-        std::map<std::string_view, std::string_view> made;
-        for (const Plain& row : plains) {
-            eachcharacter(row.letters, [&](std::string_view letter) { made.emplace(letter, row.plain); });
-        }
-        return made;
-    }();
-    return forms;
-}
+// Signs for letters that Latin has not are dropped, and so are accents.
+constexpr const char16_t* folding =
+    u":: [ʿʾʼʻʹ] Remove; :: NFD; :: [:M:] Remove; :: NFC; :: Latin-ASCII; :: Lower; \\u00A0 > ' ';";
+constexpr const char16_t* tolatin = u":: Any-Latin;";
 
-// U+0300 to U+036F, which put an accent on the letter before them.
-bool iscombining(std::string_view character)
-{
-    return character.size() == 2 && ((character[0] == '\xCC') || (character[0] == '\xCD' && character[1] <= '\xAF'));
-}
+// What is counted and has no plural with an s, or a short one.
+constexpr std::array<std::string_view, 17> measures = {"men",  "women", "people", "children", "feet", "horse",
+                                                       "foot", "sheep", "oxen",   "cattle",   "km",   "metres",
+                                                       "tons", "guns",  "sail",   "percent",  "cities"};
 
 bool isdigit(char c)
 {
@@ -101,6 +61,23 @@ bool isdigit(char c)
 bool isletter(char c)
 {
     return (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80;
+}
+
+// Whether what follows a number says what it counts: a plural or a measure.
+bool countsthings(std::string_view behind)
+{
+    if (behind.size() > 1 && behind[0] == '-' && isletter(behind[1])) {
+        return true;
+    }
+    if (behind.empty() || behind[0] != ' ' || behind.size() < 2 || !isletter(behind[1])) {
+        return false;
+    }
+    const auto end = std::find_if_not(behind.begin() + 1, behind.end(), isletter);
+    const std::string word(behind.begin() + 1, end);
+    if (std::find(measures.begin(), measures.end(), word) != measures.end()) {
+        return true;
+    }
+    return word.size() > 4 && word.ends_with('s');
 }
 
 bool sameword(const std::string& a, const std::string& b)
@@ -113,25 +90,37 @@ bool sameword(const std::string& a, const std::string& b)
 std::string folded(std::string_view text)
 {
     std::string result;
-    eachcharacter(text, [&result](std::string_view character) {
-        const char first = character.front();
-        const auto plain = plainforms().find(character);
-        if (plain != plainforms().end()) {
-            result += plain->second;
-        } else if (first >= 'A' && first <= 'Z') {
-            result += "abcdefghijklmnopqrstuvwxyz"[first - 'A'];
-        } else if (!iscombining(character)) {
-            result += character;
+    if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+        std::transform(text.begin(), text.end(), std::back_inserter(result), [](char c) {
+            return c >= 'A' && c <= 'Z' ? "abcdefghijklmnopqrstuvwxyz"[c - 'A'] : c;
+        });
+        return result;
+    }
+    return put(text, folding);
+}
+
+std::size_t misspellings(std::string_view a, std::string_view b)
+{
+    // Distances between the beginnings of both: of the last row and the two before it.
+    std::vector<std::size_t> before(b.size() + 1);
+    std::vector<std::size_t> last(b.size() + 1);
+    std::iota(last.begin(), last.end(), std::size_t{0});
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::vector<std::size_t> row(b.size() + 1, i);
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            row[j] = std::min({row[j - 1] + 1, last[j] + 1, last[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1)});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1]) {
+                row[j] = std::min(row[j], before[j - 2] + 1);
+            }
         }
-    });
-    return result;
+        before = std::exchange(last, std::move(row));
+    }
+    return last.back();
 }
 
 bool listedbefore(const std::string& a, const std::string& b)
 {
-    const std::string plaina = folded(a);
-    const std::string plainb = folded(b);
-    return plaina != plainb ? plaina < plainb : a < b;
+    return std::pair(folded(a), a) < std::pair(folded(b), b);
 }
 
 std::vector<std::string> wordsof(std::string_view text)
@@ -146,6 +135,11 @@ std::vector<std::string> wordsof(std::string_view text)
         }
     }
     return words;
+}
+
+bool holdswords(const std::vector<std::string>& whole, const std::vector<std::string>& part)
+{
+    return !part.empty() && std::search(whole.begin(), whole.end(), part.begin(), part.end(), sameword) != whole.end();
 }
 
 std::string sharedword(std::string_view name, std::string_view text)
@@ -164,7 +158,7 @@ std::string sharedword(std::string_view name, std::string_view text)
     return {};
 }
 
-// "1,000" is a number of things, not a year.
+// "1,000" is a number of things, not a year, and so is "500 pounds" or "300-mile".
 std::string yearin(std::string_view text)
 {
     for (std::size_t at = 0; at < text.size();) {
@@ -173,13 +167,13 @@ std::string yearin(std::string_view text)
             continue;
         }
         const std::size_t start = at;
-        while (at < text.size() &&
-               (isdigit(text[at]) || (text[at] == ',' && at + 1 < text.size() && isdigit(text[at + 1])))) {
+        while (at < text.size() && (isdigit(text[at]) || ((text[at] == ',' || text[at] == '.') && at + 1 < text.size() &&
+                                                          isdigit(text[at + 1])))) {
             ++at;
         }
         const std::string_view number = text.substr(start, at - start);
-        const bool whole = number.find(',') == std::string_view::npos;
-        if (whole && (number.size() == 3 || number.size() == 4)) {
+        const bool whole = number.find_first_of(",.") == std::string_view::npos;
+        if (whole && (number.size() == 3 || number.size() == 4) && !countsthings(text.substr(at))) {
             return std::string(number);
         }
     }
@@ -189,7 +183,7 @@ std::string yearin(std::string_view text)
 std::string slug(std::string_view text)
 {
     std::string result;
-    for (const char c : folded(text)) {
+    for (const char c : folded(put(text, tolatin))) {
         if (isdigit(c) || (c >= 'a' && c <= 'z')) {
             result += c;
         } else if (c != '\'' && !result.empty() && result.back() != '-') {

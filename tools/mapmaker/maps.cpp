@@ -2,7 +2,9 @@
 
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
-#include "base/files.h"
+#include "authoring/writing.h"
+#include "base/text.h"
+#include "mapmaker/icon.h"
 #include "mapmaker/locatormap.h"
 #include "mapmaker/picturefile.h"
 #include "mapmaker/texts.h"
@@ -19,60 +21,79 @@ using namespace authoring;
 
 namespace {
 
-// What every picture needs; nothing, with the reasons in the findings, where some of it is missing.
-std::optional<Coastlines> prepare(Findings& findings)
+// A fault of the installation, not of what is drawn.
+template <class T>
+std::optional<T> needed(Result<T> result, Findings& findings)
 {
-    Result<Coastlines> coastlines = worldcoastlines();
-    const Result<Done> fonts = checkfonts();
-    for (const std::string& reason : {coastlines.reason, fonts.reason}) {
-        if (!reason.empty()) {
-            findings.push_back({Severity::error, "mapmaker", 0, reason});
-        }
+    if (!result) {
+        findings.push_back({Severity::error, "mapmaker", 0, result.reason});
     }
-    return haserrors(findings) ? std::nullopt : std::move(coastlines.value);
+    return std::move(result.value);
 }
 
-void writepicture(const std::string& file, const std::string& bytes, Findings& findings)
+std::vector<Position> placesof(const std::vector<EventForm>& events)
 {
-    Result<Done> done = makefolder(folderof(file));
-    if (done) {
-        done = replacefile(file, bytes);
+    std::vector<Position> places;
+    for (const EventForm& form : events) {
+        if (hasplace(form)) {
+            places.push_back({*form.latitude, *form.longitude});
+        }
     }
-    if (!done) {
-        findings.push_back({Severity::error, file, 0, "cannot be written: " + done.reason});
-    }
+    return places;
 }
 
 } // namespace
 
-Findings drawmaps(const std::string& folder, const std::string& outfolder, const std::string& prefix)
+Findings drawmaps(const std::string& folder, const std::string& outfolder, const std::string& prefix,
+                  bool overwrite)
 {
     Findings findings;
+    Writing writing(overwrite, findings);
     Forms forms = readevents(folder, findings);
     sortforms(forms);
     const std::vector<std::string> names = picturenames(forms.events, mapprefix(prefix));
-    std::optional<Coastlines> coastlines = prepare(findings);
-    if (!coastlines) {
+    std::optional<World> world = needed(readworld(), findings);
+    std::optional<std::vector<PlaceName>> placenames = needed(worldnames(), findings);
+    needed(checkfonts(), findings);
+    if (haserrors(findings)) {
         return findings;
     }
-    const LocatorMaps maps(std::move(*coastlines));
-    for (std::size_t i = 0; i < names.size() && findings.empty(); ++i) {
+    const LocatorMaps maps(std::move(*world), std::move(*placenames));
+    const std::vector<Position> places = placesof(forms.events);
+    for (std::size_t i = 0; i < names.size(); ++i) {
         const EventForm& form = forms.events[i];
-        if (ismap(names[i]) && hasplace(form)) {
-            const QImage map = maps.draw({*form.latitude, *form.longitude}, QString::fromStdString(form.place));
-            writepicture(inside(outfolder, names[i]), pngbytes(map, mapcolours(), largestmap), findings);
+        if (isdrawn(form)) {
+            const Position place{*form.latitude, *form.longitude};
+            writing.add(outfolder, names[i],
+                        maps.file({place, QString::fromStdString(form.place), form.date1, places}));
         }
     }
+    writing.commit();
     return findings;
 }
 
-Findings drawtitle(const std::string& outfile)
+Findings drawtitle(const std::string& outfile, bool overwrite)
 {
     Findings findings;
-    const std::optional<Coastlines> coastlines = prepare(findings);
-    if (coastlines) {
-        writepicture(outfile, bmpbytes(titlepicture(*coastlines)), findings);
+    Writing writing(overwrite, findings);
+    const std::optional<World> world = needed(readworld(), findings);
+    needed(checkfonts(), findings);
+    if (!haserrors(findings)) {
+        writing.add(outfile, bmpbytes(titlepicture(world->land)));
     }
+    writing.commit();
+    return findings;
+}
+
+Findings drawicons(const std::string& outfolder, bool overwrite)
+{
+    Findings findings;
+    Writing writing(overwrite, findings);
+    for (const int size : iconsizes) {
+        writing.add(outfolder, "brindor-" + numbertext(size) + ".png", fullpngbytes(iconpicture(size)));
+    }
+    writing.add(outfolder, "brindor.svg", iconsvg());
+    writing.commit();
     return findings;
 }
 

@@ -19,7 +19,8 @@ struct Attempt {
     int colours;
     int quality;
 };
-constexpr std::array<Attempt, 4> attempts = {{{24, 40}, {24, 0}, {12, 0}, {0, 0}}};
+constexpr int allcolours = 24;
+constexpr std::array<Attempt, 4> attempts = {{{allcolours, 40}, {allcolours, 0}, {18, 0}, {0, 0}}};
 
 using Frequency = std::pair<QRgb, int>;
 
@@ -110,19 +111,27 @@ std::string saved(const QImage& picture, const char* format, int quality)
 
 } // namespace
 
-std::string pngbytes(const QImage& picture, const std::vector<QColor>& kept, std::size_t limit)
+std::string pngbytes(const QImage& picture, const std::vector<QColor>& kept, std::size_t limit, Colours colours)
 {
     const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
-    const std::vector<Frequency> colours = frequencies(plain);
+    const std::vector<Frequency> found = frequencies(plain);
     std::string bytes;
     for (const Attempt& attempt : attempts) {
-        const QImage reduced = indexed(plain, colours, paletteof(colours, kept, attempt.colours));
+        if (colours == Colours::all && attempt.colours < allcolours) {
+            break;
+        }
+        const QImage reduced = indexed(plain, found, paletteof(found, kept, attempt.colours));
         bytes = saved(reduced, "PNG", attempt.quality);
         if (bytes.size() <= limit) {
             break;
         }
     }
     return bytes;
+}
+
+std::string fullpngbytes(const QImage& picture)
+{
+    return saved(picture, "PNG", 0);
 }
 
 std::string bmpbytes(const QImage& picture)

@@ -8,11 +8,16 @@
 
 namespace brindor::mapmaker {
 
-inline constexpr std::size_t largestmap = 25 * 1024; // bytes
+// Where a picture is larger than its limit, its colours stay or become fewer.
+enum class Colours { all, fewer };
 
-// The picture as a PNG file with a palette: the colours in `kept` and the most frequent others, 24 at the most and
-// down to the kept ones alone where the file would be larger than `limit` bytes. The same picture gives the same bytes.
-std::string pngbytes(const QImage& picture, const std::vector<QColor>& kept, std::size_t limit);
+// The picture as a PNG file with a palette: the colours in `kept` and the most frequent others, 24 at the most, and
+// with fewer colours down to the kept ones alone where the file would be larger than `limit` bytes. It can be larger
+// still. The same picture gives the same bytes.
+std::string pngbytes(const QImage& picture, const std::vector<QColor>& kept, std::size_t limit, Colours colours);
+
+// The picture as a PNG file with all its colours.
+std::string fullpngbytes(const QImage& picture);
 
 // The picture as a BMP file with 24 bits a pixel.
 std::string bmpbytes(const QImage& picture);

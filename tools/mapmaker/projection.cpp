@@ -12,6 +12,7 @@ namespace {
 constexpr double degree = std::numbers::pi / 180;
 constexpr double shortest = 2;      // pixels; what is finer than that only makes the files larger
 constexpr double isletradius = 1.4; // pixels
+constexpr double brook = 12;        // the same of a river that is not worth its bytes
 
 double wrappedazimuth(double azimuth)
 {
@@ -32,6 +33,11 @@ View::View(Projection projection, const Position& centre, double cap, double sca
 double View::discradius() const
 {
     return scale_ * stretch(capup_) * std::sin(cap_);
+}
+
+double View::pixelsperdegree() const
+{
+    return scale_ * degree;
 }
 
 View::Local View::local(const Vector& vector) const
@@ -148,6 +154,31 @@ QPainterPath View::land(const Coastlines& coastlines, Islets islets) const
     }
     if (landopposite) {
         path.addEllipse(middle_, discradius(), discradius());
+    }
+    return path;
+}
+
+QPainterPath View::rivers(const Coastlines& rivers) const
+{
+    QPainterPath path;
+    for (const Ring& river : rivers) {
+        const double away = std::acos(std::clamp(dot(river.middle, up_), -1.0, 1.0));
+        if (away - river.radius > cap_ || river.radius * scale_ < brook) {
+            continue;
+        }
+        bool drawing = false;
+        for (const Vector& point : river.points) {
+            const Local next = local(point);
+            if (next.up <= capup_) {
+                drawing = false;
+            } else if (!drawing) {
+                path.moveTo(onplane(next));
+                drawing = true;
+            } else if (QLineF(path.currentPosition(), onplane(next)).length() > shortest ||
+                       &point == &river.points.back()) {
+                path.lineTo(onplane(next));
+            }
+        }
     }
     return path;
 }

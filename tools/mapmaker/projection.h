@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mapmaker/coastlines.h"
+#include "coastlines/coastlines.h"
 
 #include <QPainterPath>
 #include <QPointF>
@@ -25,6 +25,7 @@ public:
     View(Projection projection, const Position& centre, double cap, double scale, const QPointF& middle);
 
     double discradius() const;                     // pixels
+    double pixelsperdegree() const;                // at the centre
     QPointF point(const Position& position) const; // one beyond the cap comes to the edge of the disc
     bool insees(const Position& position) const;
     Position position(const QPointF& point) const; // of a point on the disc
@@ -32,6 +33,9 @@ public:
     // The land inside the cap, to be filled by the odd-even rule. Islands that would hardly be seen are drawn as dots
     // or left out.
     QPainterPath land(const Coastlines& coastlines, Islets islets) const;
+
+    // Those pieces of rivers that lie inside the cap.
+    QPainterPath rivers(const Coastlines& rivers) const;
 
     // Meridians and parallels at multiples of `step` degrees. Near the poles only every third meridian goes on.
     QPainterPath graticule(int step) const;

@@ -50,8 +50,8 @@ constexpr std::array<Name, 4> westnames = {{{"Mare Pacificum", {-14, -132}, 14},
 constexpr std::array<Name, 6> eastnames = {{{"Africa", {12, 18}, 17},
                                             {"Europa", {51, 26}, 13},
                                             {"Asia", {48, 92}, 19},
-                                            {"Oceanus Indicus", {-22, 74}, 13},
-                                            {"Nova Hollandia", {-25, 134}, 10},
+                                            {"Oceanus Indicus", {-36, 77}, 13},
+                                            {"Nova Hollandia", {-29, 134}, 8.5},
                                             {"Terra Australis", {-78, 70}, 11}}};
 
 // A wash of colour over the land, strongest in the middle.

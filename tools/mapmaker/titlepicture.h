@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mapmaker/coastlines.h"
+#include "coastlines/coastlines.h"
 
 #include <QImage>
 

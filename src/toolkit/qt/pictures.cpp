@@ -1,6 +1,7 @@
 #include "toolkit/qt/pictures.h"
 
 #include "base/files.h"
+#include "base/picturename.h"
 
 #include <QBuffer>
 #include <QByteArray>
@@ -30,6 +31,9 @@ PictureError whyunread(const std::string& reason)
 
 LoadedPicture loadpicturefile(const std::string& file)
 {
+    if (!picturefile("", file)) {
+        return failed(isregularfile(file) || !picturenamefault(file).empty() ? pictureoutside : picturenotfound);
+    }
     const Result<std::string> content = readwhole(file, largestpicturefile);
     if (!content) {
         return failed(whyunread(content.reason));
@@ -39,6 +43,8 @@ LoadedPicture loadpicturefile(const std::string& file)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
+    reader.setAutoTransform(true); // a photograph that carries a rotation mark is shown upright
+    const bool turned = (reader.transformation() & QImageIOHandler::TransformationRotate90) != 0;
     const QSize size = reader.size();
     if (size.isValid() && qint64{size.width()} * size.height() > mostpixels) {
         return failed(picturetoolarge);
@@ -51,7 +57,7 @@ LoadedPicture loadpicturefile(const std::string& file)
         return failed(notapicture);
     }
     auto pixmap = std::make_shared<QPixmap>(QPixmap::fromImage(image));
-    const QSize original = size.isValid() ? size : image.size();
+    const QSize original = !size.isValid() ? image.size() : turned ? size.transposed() : size;
     return {std::make_shared<PictureData>(PictureData{pixmap, original.width(), original.height()}), 0};
 }
 

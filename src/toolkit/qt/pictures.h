@@ -5,7 +5,6 @@
 #include <QPixmap>
 #include <QSize>
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -17,9 +16,9 @@ enum PictureError : int {
     picturenotafile = 2, // a folder, a device or the like
     notapicture = 3,     // or one that is damaged
     picturetoolarge = 4,
+    pictureoutside = 5, // its name is no relative one of a picture, or leads out of the folder of the program
 };
 
-inline constexpr std::size_t largestpicturefile = std::size_t{64} << 20; // bytes
 inline constexpr std::int64_t mostpixels = 64'000'000;
 inline constexpr int longestside = 4096; // pixels; a larger picture is kept at this size
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "authoring/findings.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// How often the game's own draw gives a question to which a fair expert has two answers.
+namespace brindor::authoring {
+
+inline constexpr std::int64_t fairnessdraws = 20000; // of each kind of question
+
+// The rules by which a question is judged, one line a rule.
+std::string fairnessrules();
+
+// A Markdown table: for each kind of question and each timeline, the share of questions with two answers, clear ones
+// and arguable ones. A target is a folder or a timeline file; one that can't be read goes to `findings` and has no
+// column. The same seed gives the same table. Uses the Timeline, the used marks and the question of the program.
+std::string fairnesstable(const std::vector<std::string>& targets, std::uint64_t seed, Findings& findings);
+
+} // namespace brindor::authoring
