@@ -4,6 +4,7 @@
 #include "authoring/packs.h"
 #include "authoring/summary.h"
 #include "base/folders.h"
+#include "base/playerfolder.h"
 #include "base/text.h"
 
 #include <CLI/CLI.hpp>
@@ -171,6 +172,12 @@ int main(int argc, char** argv)
         return tell(packtimeline(folder, file, overwrite, places), folder, false);
     }
     if (adding->parsed()) {
+        const Result<std::string> own = readyplayerfolder(places.game);
+        if (!own) {
+            std::cerr << own.reason << '\n';
+            return 1;
+        }
+        places.game = *own.value;
         return tell(addpack(file, period, overwrite, places), "", false);
     }
     if (exporting->parsed()) {

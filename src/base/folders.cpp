@@ -70,6 +70,13 @@ Result<Done> copyfile(const std::string& from, const std::string& into)
     return error ? Result<Done>{std::nullopt, error.message()} : Result<Done>{Done{}, {}};
 }
 
+Result<Done> linkfolder(const std::string& folder, const std::string& link)
+{
+    std::error_code error;
+    fs::create_directory_symlink(fs::absolute(folder, error), link, error);
+    return error ? Result<Done>{std::nullopt, error.message()} : Result<Done>{Done{}, {}};
+}
+
 std::string programfolder()
 {
     std::error_code ignored;

@@ -37,6 +37,9 @@ std::vector<std::string> filesbelow(const std::string& folder);
 // Copies a file with its permissions.
 Result<Done> copyfile(const std::string& from, const std::string& into);
 
+// Puts a link to a folder where `link` says.
+Result<Done> linkfolder(const std::string& folder, const std::string& link);
+
 // The folder of the running program.
 std::string programfolder();
 

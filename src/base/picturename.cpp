@@ -1,6 +1,7 @@
 #include "base/picturename.h"
 
 #include "base/files.h"
+#include "base/playerfolder.h"
 
 #include <algorithm>
 #include <array>
@@ -21,6 +22,11 @@ bool iscontrol(char c)
 {
     const auto byte = static_cast<unsigned char>(c);
     return byte < 0x20 || byte == 0x7F;
+}
+
+bool liesin(const std::string& path, const std::string& folder)
+{
+    return path.starts_with(folder == "/" ? folder : folder + '/');
 }
 
 } // namespace
@@ -76,7 +82,7 @@ Result<std::string> picturefile(const std::string& folder, const std::string& na
     if (!real) {
         return real;
     }
-    if (!real.value->starts_with(*home.value == "/" ? "/" : *home.value + '/')) {
+    if (!liesin(*real.value, *home.value) && (sharedfolder.empty() || !liesin(*real.value, sharedfolder))) {
         return {std::nullopt, "a link leads out of the folder"};
     }
     return {named, {}};

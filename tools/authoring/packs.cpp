@@ -54,11 +54,18 @@ Report makewhole(const std::string& folder, const std::string& file, const Place
 
 Result<Done> copygame(const std::string& game, const std::string& into)
 {
-    for (const char* name : {"brindor", "brindor-viewer", "TITLE.BMP", "bdqord.txt"}) {
+    for (const char* name : {"brindor", "brindor-viewer", "TITLE.BMP", "bdqord.txt", "brindor.png", "qt.conf"}) {
         const std::string from = inside(game, name);
         if (isregularfile(from)) {
             if (Result<Done> copied = copyfile(from, inside(into, name)); !copied) {
                 return {std::nullopt, from + " cannot be copied: " + copied.reason};
+            }
+        }
+    }
+    for (const char* name : {"lib", "plugins"}) { // of a packed game, which has its libraries with it
+        if (const std::string from = inside(game, name); isfolder(from)) {
+            if (Result<Done> linked = linkfolder(from, inside(into, name)); !linked) {
+                return {std::nullopt, from + " cannot be linked: " + linked.reason};
             }
         }
     }
