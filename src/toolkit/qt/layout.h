@@ -19,6 +19,7 @@ struct Box {
     bool visible = true;
     bool container = false;                  // has children, if only none
     bool counts = true;                      // must be reached: all but containers that have no border
+    bool fillsrow = false;                   // lies on a row, as high as that becomes
     std::function<int(int width)> heightfor; // what a wrapped text needs at a width; none for other controls
     std::vector<Box> children;
 
@@ -30,7 +31,8 @@ struct Box {
 // and what lies below it moves down with its own order and gaps kept: boxes with the same top stay together. A
 // container grows with its children, also to the left and upwards, so that none is cut off. Gives back the rect that
 // the container needs.
-QRect arrange(std::vector<Box>& boxes, QSize own);
+// No text is squeezed below `leasttextwidth`.
+QRect arrange(std::vector<Box>& boxes, QSize own, int leasttextwidth);
 
 // The rect round all boxes that must be reached, of those that are visible or of all of them.
 QRect reachofboxes(const std::vector<Box>& boxes, bool visibleonly);
@@ -40,8 +42,9 @@ struct CanvasPlan {
     QPoint origin; // where the records' corner lies on the canvas
 };
 
-// `seen` is the inside of the window without scroll bars, `bar` the width of one. With `centred`, contents that are
-// smaller than the window stand in its middle.
-CanvasPlan plancanvas(const std::vector<Box>& boxes, QSize seen, int bar, bool centred);
+// `seen` is the inside of the window without scroll bars, `bar` the width of one, `margin` what is left free between
+// the outermost control and an edge that is scrolled to. With `centred`, contents that are smaller than the window
+// stand in its middle.
+CanvasPlan plancanvas(const std::vector<Box>& boxes, QSize seen, int bar, int margin, bool centred);
 
 } // namespace brindor::toolkit::qt
