@@ -117,6 +117,7 @@ struct List : Control {
     List() : Control(Kind::list) {}
     std::vector<std::string> lines;
     std::vector<bool> selected; // one flag a line; shown in colour
+    int columns = 1;            // the lines stand in
     bool multiselect = false;   // a click toggles a line and nothing else
     bool pushesup = false;      // a click pushes a line up: the lines fill the list, and those that can go up show it
     std::function<void(std::int16_t line)> pick; // a person clicked this line

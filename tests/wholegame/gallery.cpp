@@ -6,6 +6,7 @@
 #include "editors/imgdisp.h"
 #include "editors/pentry.h"
 #include "frame/mainscreen.h"
+#include "frame/services/placement.h"
 #include "questions/catalogue.h"
 #include "quiz/mchoice.h"
 #include "quiz/qmatch.h"
@@ -17,6 +18,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -78,6 +80,9 @@ QPoint middleof(QWidget& window, const std::string& control)
     if (widget == nullptr) {
         ADD_FAILURE() << "no " << control;
         return {};
+    }
+    if (auto* area = window.findChild<QScrollArea*>()) {
+        area->ensureWidgetVisible(widget);
     }
     return widget->mapTo(&window, widget->rect().center());
 }
@@ -165,6 +170,7 @@ std::vector<Exhibit> gallery()
 
 void look(const Exhibit& exhibit, const std::function<void(QWidget& window)>& with)
 {
+    placements = firstplacements;
     std::vector<Step> steps = exhibit.way;
     steps.push_back({exhibit.window, with});
     walk(exhibit.open, std::move(steps));

@@ -4,6 +4,7 @@
 #include "toolkit/qt/icon.h"
 
 #include <QApplication>
+#include <QPlainTextEdit>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleOptionButton>
@@ -67,6 +68,9 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
     {
         const int plain = QProxyStyle::pixelMetric(metric, option, widget);
+        if (metric == PM_DefaultFrameWidth && qobject_cast<const QPlainTextEdit*>(widget) != nullptr) {
+            return 2; // the line round the one that has the keyboard
+        }
         const bool grows = metric == PM_ScrollBarExtent || metric == PM_MessageBoxIconSize || metric == PM_ButtonMargin;
         return grows ? basezoom().length(plain) : plain;
     }
@@ -91,7 +95,16 @@ public:
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override
     {
-        if (element != PE_FrameFocusRect || qobject_cast<const QPushButton*>(widget) == nullptr) {
+        const bool field = element == PE_FrameLineEdit ||
+                           (element == PE_Frame && qobject_cast<const QPlainTextEdit*>(widget) != nullptr);
+        if (field) {
+            painter->setPen(edgecolour(option->palette.color(QPalette::Base)));
+            painter->setBrush(Qt::NoBrush);
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            if (option->state.testFlag(State_HasFocus)) {
+                drawfocus(*painter, option->rect);
+            }
+        } else if (element != PE_FrameFocusRect || qobject_cast<const QPushButton*>(widget) == nullptr) {
             QProxyStyle::drawPrimitive(element, option, painter, widget);
         }
     }

@@ -62,17 +62,18 @@ void collect(const std::vector<Box>& boxes, QPoint origin, bool visibleonly, QRe
 
 } // namespace
 
-QRect arrange(std::vector<Box>& boxes, QSize own, int leasttextwidth)
+QRect arrange(std::vector<Box>& boxes, QSize own, TextRoom room)
 {
     std::vector<int> needed;
     std::vector<QRect> rects; // relative to the box's own record corner
     for (Box& box : boxes) {
         QRect rect(QPoint(0, 0), box.record.size());
         if (box.container) {
-            rect = arrange(box.children, box.record.size(), leasttextwidth);
+            rect = arrange(box.children, box.record.size(), room);
             box.origin = -rect.topLeft();
         } else if (box.heightfor) {
-            rect.setWidth(std::max(rect.width(), leasttextwidth));
+            const int inside = box.narrows ? own.width() - box.record.left() - room.spare : rect.width();
+            rect.setWidth(std::max(std::min(rect.width(), inside), room.leasttextwidth));
             rect.setHeight(std::max(rect.height(), box.heightfor(rect.width())));
         }
         rects.push_back(rect);

@@ -20,6 +20,7 @@ struct Box {
     bool container = false;                  // has children, if only none
     bool counts = true;                      // must be reached: all but containers that have no border
     bool fillsrow = false;                   // lies on a row, as high as that becomes
+    bool narrows = false;                    // a text that wraps rather than reach beyond its container
     std::function<int(int width)> heightfor; // what a wrapped text needs at a width; none for other controls
     std::vector<Box> children;
 
@@ -31,8 +32,12 @@ struct Box {
 // and what lies below it moves down with its own order and gaps kept: boxes with the same top stay together. A
 // container grows with its children, also to the left and upwards, so that none is cut off. Gives back the rect that
 // the container needs.
-// No text is squeezed below `leasttextwidth`.
-QRect arrange(std::vector<Box>& boxes, QSize own, int leasttextwidth);
+// No text is squeezed below `leasttextwidth`, and `spare` is kept free of texts that narrow, for a scroll bar.
+struct TextRoom {
+    int leasttextwidth = 0;
+    int spare = 0;
+};
+QRect arrange(std::vector<Box>& boxes, QSize own, TextRoom room);
 
 // The rect round all boxes that must be reached, of those that are visible or of all of them.
 QRect reachofboxes(const std::vector<Box>& boxes, bool visibleonly);

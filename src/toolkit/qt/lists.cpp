@@ -30,7 +30,7 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        const int width = widget_.viewport()->width();
+        const int width = widget_.viewport()->width() / list_.columns;
         text_.set(index.data().toString(), option.font, Align::left);
         const int text = text_.heightfor(width - left() - right()) + 2 * zoom().length(rowmargin);
         // Rounded down, so that as many lines as fit at zoom 1 fit at every zoom.
@@ -108,6 +108,7 @@ public:
         setSelectionMode(QAbstractItemView::NoSelection);
         setItemDelegate(new LineDelegate(list, this));
         setResizeMode(QListView::Adjust);
+        setWrapping(list.columns > 1);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         setMouseTracking(true);

@@ -29,6 +29,13 @@ bool isbar(const Control& control)
     return control.kind == Kind::button && static_cast<const Button&>(control).bar;
 }
 
+// A label without a surface or an edge of its own.
+bool isplainlabel(const Control& control)
+{
+    return control.kind == Kind::label && control.opaque && !static_cast<const Label&>(control).outlined &&
+           control.back == (control.container == nullptr ? control.screen->back : control.container->back);
+}
+
 QEvent::Type layoutevent()
 {
     static const int type = QEvent::registerEventType();
@@ -260,6 +267,7 @@ std::vector<Box> ScreenWindow::boxesin(const Frame* container) const
             box.fillsrow = rowof(static_cast<const Button&>(*control)) != nullptr;
             box.heightfor = [view](int width) { return view->heightfor(width); };
         } else if (view->wraps()) {
+            box.narrows = isplainlabel(*control) && screen_.resize != nullptr;
             box.heightfor = [view](int width) { return view->heightfor(width); };
         }
     }
@@ -271,8 +279,8 @@ void ScreenWindow::layoutcontrols()
     layoutrequested_ = false;
     const QSize seen = area_->maximumViewportSize();
     std::vector<Box> boxes = boxesin(nullptr);
-    arrange(boxes, seen, zoom_.length(leasttextwidth));
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_->verticalScrollBar());
+    arrange(boxes, seen, {zoom_.length(leasttextwidth), bar + zoom_.length(endmargin)});
     // What places itself stands in the middle where the whole window is more than its zoom could fill.
     const bool centred = !screen_.resize || (state_ == maximised && screen_.backdrop == nullptr);
     const CanvasPlan plan =

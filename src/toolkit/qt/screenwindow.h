@@ -4,6 +4,7 @@
 #include "toolkit/qt/layout.h"
 #include "toolkit/qt/windowsize.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 #include <QWidget>
@@ -84,6 +85,7 @@ private:
     Size normal_;         // the record's outer size when the window was last in its normal state
     QPoint middle_;       // of the window in its normal state, where it was put by the record or by a person
     QTimer settling_;     // runs while sizes and places of our own may still be reported, old ones among them
+    QElapsedTimer moved_; // since the window was last put somewhere
     bool waited_ = false; // the size in hand has been looked at before
 
     // As last brought to the window or reported from it.

@@ -12,6 +12,8 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
+constexpr int settlingtime = 250; // milliseconds
+
 std::int16_t stateof(Qt::WindowStates states)
 {
     if (states.testFlag(Qt::WindowMinimized)) {
@@ -72,6 +74,7 @@ void ScreenWindow::giveplace()
 void ScreenWindow::standround(QPoint middle)
 {
     middle_ = middle;
+    moved_.start();
     const QMargins frame = framemargins();
     const QSize outer = size().grownBy(frame);
     const QRect room = workarea();
@@ -95,8 +98,7 @@ void ScreenWindow::rezoom()
 // Quick changes bring late reports of older sizes: none counts until all is quiet, and then the one in force.
 void ScreenWindow::settle()
 {
-    constexpr int milliseconds = 250;
-    settling_.start(milliseconds);
+    settling_.start(settlingtime);
 }
 
 // A maximised window shows its contents as large as its size in the normal state fills it, and never smaller than the
@@ -127,7 +129,8 @@ void ScreenWindow::resizeEvent(QResizeEvent* /*event*/)
 
 void ScreenWindow::moveEvent(QMoveEvent* /*event*/)
 {
-    if (presented_ && !settling_.isActive() && isnormal() && !fillsdisplay()) {
+    const bool ours = settling_.isActive() || (moved_.isValid() && moved_.elapsed() < settlingtime);
+    if (presented_ && !ours && isnormal() && !fillsdisplay()) {
         middle_ = frameGeometry().center();
     }
 }
@@ -147,10 +150,11 @@ void ScreenWindow::changeEvent(QEvent* event)
 // at again a little later: it may be on its way to the maximised state, or from it.
 void ScreenWindow::reportsize()
 {
-    if (!presented_ || screen_.closed || settling_.isActive()) {
+    const std::int16_t state = stateof(windowState());
+    const bool quiet = !settling_.isActive() || state == minimised; // a minimised window tells no size
+    if (!presented_ || screen_.closed || !quiet) {
         return;
     }
-    const std::int16_t state = stateof(windowState());
     if (state == normal && !std::exchange(waited_, false) && fillsdisplay()) {
         waited_ = true;
         QTimer::singleShot(100, this, [this] { reportsize(); });
