@@ -10,13 +10,14 @@ int main(int argc, char** argv)
 {
     using namespace brindor;
     return toolkit::qt::runapplication(argc, argv, [] {
-        const toolkit::QtHost host;
         const std::string programfolder = toolkit::qt::programfolder();
-        const Result<std::string> folder = readyplayerfolder(programfolder);
-        if (!folder) {
-            toolkit::messagebox(folder.reason + " The game starts all the same; settings and log will not be kept.");
+        const Result<std::string> ready = readyplayerfolder(programfolder);
+        const std::string folder = ready.value.value_or(programfolder);
+        const toolkit::QtHost host(folder + "/bdqzoom.txt");
+        if (!ready) {
+            toolkit::messagebox(ready.reason + " The game starts all the same; settings and log will not be kept.");
         }
-        MainScreen screen(folder.value.value_or(programfolder));
+        MainScreen screen(folder);
         toolkit::showmodal(screen);
     });
 }

@@ -93,6 +93,7 @@ void RecordEditor<Family>::showentry(std::int16_t k)
 {
     const Record& record = Family::record(k);
     showfields(record);
+    showline(combo1, k);
     for (const CatalogueList& list : differs_.lists) {
         settext(list.combo, entryname(list.entries, record.*list.field));
         list.current = record.*list.field;

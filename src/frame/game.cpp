@@ -61,9 +61,9 @@ std::int16_t drawtype()
 
 void closingmessage(const PlayerRec& best)
 {
-    toolkit::messagebox(nplayers > 1 ? best.name + " is the winner"
-                                     : "You scored " + numbertext(best.right) + " out of " + numbertext(best.asked) +
-                                           " (" + numbertext(best.percent) + "%)");
+    toolkit::announce(nplayers > 1 ? best.name + " is the winner"
+                                   : "You scored " + numbertext(best.right) + " out of " + numbertext(best.asked) +
+                                         " (" + numbertext(best.percent) + "%)");
 }
 
 } // namespace

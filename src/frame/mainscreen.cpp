@@ -17,6 +17,7 @@
 #include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <utility>
@@ -27,12 +28,22 @@ using namespace toolkit;
 
 namespace {
 
-constexpr double screenwidth = 12000;
-constexpr double screenheight = 8400;
-constexpr double margin = 240;
-constexpr double gap = 120;
-constexpr double buttonheight = 540;
-constexpr double buttonwidth = 2160;
+// In units of which the picture is 960 wide, as the title picture is drawn: the screen is laid out in them, so that all
+// of it grows and shrinks like one picture.
+constexpr double picturewidth = 960;
+constexpr double pictureheight = 640;
+constexpr Place titleplace{190, 44, 580, 64}; // in the cartouche
+constexpr Place versionplace{190, 106, 580, 32};
+constexpr Place creditplace{190, 514, 580, 24}; // below the globes
+constexpr double buttontop = 566;
+constexpr double buttonheight = 42;
+constexpr double buttonwidth = 156;
+constexpr double buttongap = 12;
+constexpr double titlepoints = 2.08; // by unit: 26 points as the screen is made
+constexpr double wordpoints = 0.96;
+
+// Twips by unit where the window is as large as it is made.
+constexpr double madeunit = 12.5;
 
 constexpr const char* catalogtext = "bdqord.txt";
 
@@ -41,8 +52,8 @@ constexpr const char* catalogtext = "bdqord.txt";
 MainScreen::MainScreen(std::string programfolder) : programfolder_(std::move(programfolder))
 {
     name = "main";
-    width = screenwidth;
-    height = screenheight;
+    width = picturewidth * madeunit;
+    height = pictureheight * madeunit;
     defaultbutton = &command1;
 
     const Look look{{236, 220, 176}, {245, 222, 160}, {Face::plain, 12, true}};
@@ -51,14 +62,12 @@ MainScreen::MainScreen(std::string programfolder) : programfolder_(std::move(pro
         Label& label;
         const char* labelname;
         const char* text;
-        double points;
-    } lines[] = {{label1, "Label1", "", 26},
-                 {label2, "Label2", "", 12},
-                 {label3, "Label3", "Written by the project's contributors", 12},
-                 {label4, "Label4", "Copyright (C) the project's contributors", 12}};
+    } lines[] = {{label1, "Label1", ""},
+                 {label2, "Label2", ""},
+                 {label3, "Label3", "Written by the project's contributors"},
+                 {label4, "Label4", "Copyright (C) the project's contributors"}};
     for (const auto& line : lines) {
-        put({back, {}, {Face::heading, line.points, true}, {}, {64, 32, 16}}, *this, line.label, line.labelname,
-            line.text, {});
+        put({back, {}, {Face::heading, 12, true}, {}, {64, 32, 16}}, *this, line.label, line.labelname, line.text, {});
         line.label.opaque = false;
         line.label.align = Align::centre;
     }
@@ -124,29 +133,31 @@ void MainScreen::loadbackdrop()
     setbackdrop(*this, loadpicture(titlepicture).picture);
 }
 
-// The title stays in the upper part, the buttons in a row at the bottom (in a column where the window is too narrow
-// for the row).
+// The picture stands whole in the middle of the window, and everything in its place on the picture.
 void MainScreen::arrange()
 {
     const Size frame = framesize();
-    const double inwidth = width - frame.width;
-    const double inheight = height - frame.height;
-    const double textwidth = inwidth - 2 * margin;
-    place(label1, {margin, inheight * 0.07, textwidth, 780});
-    place(label2, {margin, inheight * 0.07 + 780, textwidth, 420});
-    place(label3, {margin, inheight * 0.8, textwidth, 360});
-    place(label4, {margin, inheight * 0.8 + 360, textwidth, 360});
-
+    const Size inside{width - frame.width, height - frame.height};
+    const double unit = std::min(inside.width / picturewidth, inside.height / pictureheight);
+    const double picleft = (inside.width - picturewidth * unit) / 2;
+    const double pictop = (inside.height - pictureheight * unit) / 2;
+    const auto putat = [&](Control& control, const Place& at, double points) {
+        place(control, {picleft + at.left * unit, pictop + at.top * unit, at.width * unit, at.height * unit});
+        setfontsize(control, points * unit);
+    };
+    putat(label1, titleplace, titlepoints);
+    putat(label2, versionplace, wordpoints);
+    Place credit = creditplace;
+    for (Label* label : {&label3, &label4}) {
+        putat(*label, credit, wordpoints);
+        credit.top += credit.height;
+    }
     const std::array<Button*, 5> buttons = {&command1, &cmdsetup, &command3, &cmdcatalog, &cmdquit};
     const double count = static_cast<double>(buttons.size());
-    const double rowwidth = count * buttonwidth + (count - 1) * gap;
-    const bool row = rowwidth + 2 * margin <= inwidth;
-    double x = row ? (inwidth - rowwidth) / 2 : (inwidth - buttonwidth) / 2;
-    double y = inheight - margin - (row ? buttonheight : count * buttonheight + (count - 1) * gap);
+    double x = (picturewidth - count * buttonwidth - (count - 1) * buttongap) / 2;
     for (Button* button : buttons) {
-        place(*button, {x, y, buttonwidth, buttonheight});
-        x += row ? buttonwidth + gap : 0;
-        y += row ? 0 : buttonheight + gap;
+        putat(*button, {x, buttontop, buttonwidth, buttonheight}, wordpoints);
+        x += buttonwidth + buttongap;
     }
 }
 

@@ -41,12 +41,12 @@ Mchoice::Mchoice()
     for (std::int16_t i = 0; i < itemsasked; ++i) {
         OptionButton& option = choice[static_cast<std::size_t>(i)];
         put({green, {}, {Face::reading, 12, true}}, frame1, option, indexed("choice", i), "",
-            {140, 1260.0 + i * 1260, 11520, 1140});
+            {140, 1260.0 + i * 1300, 11520, 1180});
         option.press = [this, i] { answer(i); };
     }
-    put(look, frame1, cmdhelp, "cmdhelp", "help", {140, 7680, grid::buttonwidth, grid::buttonheight});
+    put(look, frame1, cmdhelp, "cmdhelp", "help", {140, 7860, grid::buttonwidth, grid::buttonheight});
     cmdhelp.accesskey = 'h';
-    put(look, frame1, command1, "Command1", "skip", {1700, 7680, grid::buttonwidth, grid::buttonheight});
+    put(look, frame1, command1, "Command1", "skip", {1700, 7860, grid::buttonwidth, grid::buttonheight});
     command1.accesskey = 's';
 
     load = [this] { open(); };

@@ -40,17 +40,21 @@ struct FontStep {
 constexpr double shortnamesize = 13.5;
 constexpr std::array<FontStep, 4> fontsteps = {{{20, 14}, {25, 12}, {28, 10}, {38, 8}}};
 
-// The bars stand in a staircase above the descriptions, bar 4 highest and furthest left. On a row of descriptions
-// they leave the left part open, where the text of the description stands.
+// The bars stand in a staircase above the descriptions, bar 4 highest and furthest left, each as high as the row that
+// it will fill. On a row they leave the left part open, where the text of the description stands.
+constexpr double rowheight = 660;
+constexpr double barstep = rowheight + 60;
 constexpr Place barplace(int bar)
 {
     const int step = 4 - bar;
-    return {4080.0 + step * 540, 240.0 + step * 600, 4800, 540};
+    return {4080.0 + step * 540, grid::margin + step * barstep, 4800, rowheight};
 }
-constexpr double firstrow = 3360;
-constexpr double rowheight = 720;
-constexpr double rowstep = 840;
+constexpr double rowsleft = 150;
+constexpr double rowswidth = 11500;
+constexpr double firstrow = grid::margin + 5 * barstep + grid::gap;
+constexpr double rowstep = rowheight + grid::gap;
 constexpr double opentextwidth = 3840;
+constexpr double buttonstop = firstrow + 5 * rowstep + grid::gap;
 
 } // namespace
 
@@ -64,7 +68,8 @@ Qmatch::Qmatch()
     back = blue;
 
     put(look, *this, frame1, "Frame1", "", {50, 50, 11900, 8900});
-    put({blue, {}, {Face::plain, 13.5, false}}, frame1, label1, "Label1", "", {150, 240, 3600, 1560});
+    put({blue, {}, {Face::plain, 13.5, false}}, frame1, label1, "Label1", "",
+        {rowsleft, grid::margin, 3600, rowheight});
     // Tab goes through the bars from the top one down, and then through the descriptions.
     for (int b = 4; b >= 0; --b) {
         Button& bar = btn1[static_cast<std::size_t>(b)];
@@ -78,21 +83,23 @@ Qmatch::Qmatch()
     for (std::size_t p = 0; p < label2.size(); ++p) {
         put({{255, 128, 255}, {}, {Face::plain, 12, true}}, frame1, label2[p],
             indexed("Label2", static_cast<std::int64_t>(p)), "",
-            {150, firstrow + static_cast<double>(p) * rowstep, 11500, rowheight});
+            {rowsleft, firstrow + static_cast<double>(p) * rowstep, rowswidth, rowheight});
         label2[p].outlined = true;
         label2[p].textwidth = opentextwidth;
         label2[p].drop = [this, p] { drop(p); };
     }
     label2[0].tooltip = "Drag one of the colored bars to this description";
 
-    put(look, frame1, cmdhelp, "cmdhelp", "Help", {150, 7680, grid::buttonwidth, grid::buttonheight});
-    cmdhelp.accesskey = 'H';
-    put(look, frame1, command2, "Command2", "Skip", {1710, 7680, grid::buttonwidth, grid::buttonheight});
+    // Skip loses everything: it stands apart from Done.
+    const auto putbutton = [&](Button& button, const char* controlname, const char* text, double from) {
+        put(look, frame1, button, controlname, text, {from, buttonstop, grid::buttonwidth, grid::buttonheight});
+        button.accesskey = text[0];
+    };
+    putbutton(cmdhelp, "cmdhelp", "Help", rowsleft);
+    putbutton(command2, "Command2", "Skip", rowsleft + grid::buttonwidth + grid::gap);
+    putbutton(command1, "Command1", "Done", rowsleft + rowswidth - grid::buttonwidth);
     command2.tooltip = "Click here when you are ready to proceed";
-    command2.accesskey = 'S';
-    put(look, frame1, command1, "Command1", "Done", {3270, 7680, grid::buttonwidth, grid::buttonheight});
     command1.tooltip = command2.tooltip;
-    command1.accesskey = 'D';
 
     load = [this] { open(); };
     resize = [this] {

@@ -42,14 +42,23 @@ Qsort::Qsort()
     caption = "Quorvel Mind Tourney";
     back = look.surface;
 
-    put(look, *this, frame1, "Frame1", "", {0, 0, 8160, 6480});
-    put(look, frame1, label1, "Label1", "", {240, 240, 7680, 480});
-    put(look, frame1, list1, "List1", "", {240, 840, 7680, 4080});
+    // The list fills the screen; the frame stands in the middle of what is outside the title bar as well.
+    constexpr double inwidth = 11400;
+    constexpr double listtop = 480 + grid::gap;
+    constexpr double listheight = 6300;
+    constexpr double hinttop = listtop + listheight + grid::gap;
+    constexpr double buttonstop = hinttop + 480 + grid::gap;
+    put(look, *this, frame1, "Frame1", "", {0, 0, inwidth, buttonstop + grid::buttonheight});
+    put(look, frame1, label1, "Label1", "", {0, 0, inwidth, 480});
+    put(look, frame1, list1, "List1", "", {0, listtop, inwidth, listheight});
+    list1.pushesup = true;
     list1.says = "Items to sort";
-    put(look, frame1, label2, "Label2", "", {240, 5040, 7680, 480});
-    put(look, frame1, command2, "Command2", "Help", {240, 5760, grid::buttonwidth, grid::buttonheight});
+    label1.names = &list1;
+    put(look, frame1, label2, "Label2", "", {0, hinttop, inwidth, 480});
+    put(look, frame1, command2, "Command2", "Help", {0, buttonstop, grid::buttonwidth, grid::buttonheight});
     command2.accesskey = 'H';
-    put(look, frame1, command1, "Command1", "Done", {1800, 5760, grid::buttonwidth, grid::buttonheight});
+    put(look, frame1, command1, "Command1", "Done",
+        {inwidth - grid::buttonwidth, buttonstop, grid::buttonwidth, grid::buttonheight});
     command1.accesskey = 'D';
 
     load = [this] { open(); };

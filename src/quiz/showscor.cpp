@@ -20,16 +20,16 @@ Showscor::Showscor()
     escapecloses = true;
     defaultbutton = &command1;
 
-    put(look, *this, frame1, "Frame1", " ", {50, 50, 11900, 8900});
-    put(look, frame1, label1, "Label1", "Label1", {150, 240, 5400, 480});
-    put(look, frame1, text1, "Text1", "Text1", {150, 840, 11500, 6720});
+    put(look, *this, frame1, "Frame1", " ", {50, 50, 8300, 5300});
+    put(look, frame1, label1, "Label1", "Label1", {150, 240, 7900, 480});
+    put(look, frame1, text1, "Text1", "Text1", {150, 840, 7900, 3120});
     text1.multiline = true;
     text1.readonly = true;
     text1.says = "Result";
-    put(look, frame1, command1, "Command1", "ok", {150, 7680, grid::buttonwidth, grid::buttonheight});
+    put(look, frame1, command1, "Command1", "ok", {150, 4200, grid::buttonwidth, grid::buttonheight});
     command1.tooltip = "Click here when  ready to proceed";
     command1.accesskey = 'o';
-    put(look, frame1, label2, "Label2", "Label2", {1710, 7680, 4800, 480});
+    put(look, frame1, label2, "Label2", "Label2", {1710, 4200, 4500, 480});
 
     load = [this] {
         placeform(*this, showscorrow, restoreplacement);

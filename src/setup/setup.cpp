@@ -21,11 +21,11 @@ namespace {
 const Look look{{255, 255, 192}, {255, 224, 128}, {Face::plain, 11, false}};
 constexpr double editfontsize = 8;
 
-constexpr double listwidth = 4200;
-constexpr double listheight = 60 + lasttype * 480.0; // all kinds of question, one a line
-constexpr double sidewidth = 4560;
+constexpr double inwidth = 8640;
+constexpr double listheight = 120 + (lasttype + 1) / 2 * 480.0; // all kinds of question, in two columns
+constexpr double loggingwidth = 4920;
 constexpr double fieldwidth = 600;
-constexpr double spinwidth = 360;
+constexpr double spinwidth = 720; // the two halves side by side
 
 struct LogOption {
     const char* text;
@@ -71,50 +71,55 @@ Setup::Setup(std::function<void()> showchooser)
 
 void Setup::putcontrols()
 {
-    const double above = grid::margin;
-    put(look, *this, label1, "Label1", "Kinds of question", {grid::margin, above, listwidth, grid::row});
-    put(look, *this, list1, "List1", "", {grid::margin, above + grid::row, listwidth, listheight});
+    double at = grid::margin;
+    const auto putnumber = [this](auto& holder, const Caption& label, TextBox& box, const char* boxname,
+                                  const char* text, Spin& spin, const char* spinname, const Place& line) {
+        const double fields = label.width + fieldwidth;
+        putcaptioned(look, holder, label, box, boxname, text, {line.left, line.top, fields, line.height});
+        put(look, holder, spin, spinname, "", {line.left + fields, line.top, spinwidth, line.height});
+        spin.buddy = &box;
+        spin.says = box.says;
+    };
+    putnumber(*this, {label4, "Label4", "Number of questions per game", 3360}, nquestion, "nquestion", "5", updown1,
+              "UpDown1", {grid::margin, at, inwidth, grid::row});
+
+    at += grid::row + grid::margin;
+    put(look, *this, label1, "Label1", "Kinds of question", {grid::margin, at, inwidth, grid::row});
+    put(look, *this, list1, "List1", "", {grid::margin, at + grid::row, inwidth, listheight});
     list1.multiselect = true;
+    list1.columns = 2;
     list1.tooltip = "Colored items are selected";
     list1.says = label1.text;
+    label1.names = &list1;
 
-    const double side = grid::margin + listwidth + grid::margin;
-    putcaptioned(look, *this, {label4, "Label4", "Number of questions per game", sidewidth - fieldwidth - spinwidth},
-                 nquestion, "nquestion", "5", {side, above, sidewidth - spinwidth, grid::row});
-    put(look, *this, updown1, "UpDown1", "", {side + sidewidth - spinwidth, above, spinwidth, grid::row});
-    updown1.buddy = &nquestion;
-
-    const double logtop = above + grid::row + grid::margin;
-    put(look, *this, frame1, "Frame1", "Log File Status",
-        {side, logtop, sidewidth, optionsheight(static_cast<std::int64_t>(option1.size()))});
+    at += grid::row + listheight + grid::margin;
+    const double height1 = optionsheight(static_cast<std::int64_t>(option1.size()));
+    put(look, *this, frame1, "Frame1", "Log File Status", {grid::margin, at, loggingwidth, height1});
     frame1.border = true;
     for (std::size_t i = 0; i < option1.size(); ++i) {
-        const auto at = static_cast<std::int64_t>(i);
-        put(look, frame1, option1[i], indexed("Option1", at), logoptions[i].text, optionplace(at, sidewidth));
+        const auto index = static_cast<std::int64_t>(i);
+        put(look, frame1, option1[i], indexed("Option1", index), logoptions[i].text, optionplace(index, loggingwidth));
         option1[i].tooltip = logoptions[i].tooltip;
     }
 
-    put(look, *this, framediff, "frameDiff", "Difficulty",
-        {side, logtop + frame1.place.height + grid::margin, sidewidth, optionsheight(2)});
+    const double side = grid::margin + loggingwidth + grid::margin;
+    const double sidewidth = inwidth - loggingwidth - grid::margin;
+    put(look, *this, framediff, "frameDiff", "Difficulty", {side, at, sidewidth, optionsheight(2)});
     framediff.border = true;
-    const auto putdifficulty = [this](const char* labelname, const char* text, Label& label, const char* boxname,
-                                      TextBox& box, const char* spinname, Spin& spin, std::int64_t at) {
-        const Place line = optionplace(at, sidewidth);
-        const double fields = line.width - spinwidth;
-        putcaptioned(look, framediff, {label, labelname, text, fields - fieldwidth}, box, boxname, "1",
-                     {line.left, line.top, fields, line.height});
-        put(look, framediff, spin, spinname, "", {line.left + fields, line.top, spinwidth, line.height});
-        spin.buddy = &box;
-    };
-    putdifficulty("Label5", "Minimum", label5, "tmindif", tmindif, "UpDown2", updown2, 0);
-    putdifficulty("Label6", "Maximum", label6, "tmaxdif", tmaxdif, "UpDown3", updown3, 1);
+    const Place first = optionplace(0, sidewidth);
+    const double captionwidth = first.width - fieldwidth - spinwidth;
+    putnumber(framediff, {label5, "Label5", "Minimum", captionwidth}, tmindif, "tmindif", "1", updown2, "UpDown2",
+              first);
+    putnumber(framediff, {label6, "Label6", "Maximum", captionwidth}, tmaxdif, "tmaxdif", "1", updown3, "UpDown3",
+              optionplace(1, sidewidth));
 
-    const double bottom = above + grid::row + listheight + grid::margin;
-    put(look, *this, cmdedit, "cmdEdit", "", {grid::margin, bottom, 1.5 * grid::buttonwidth, grid::buttonheight});
+    const double bottom = at + height1 - grid::buttonheight;
+    const double right = grid::margin + inwidth;
+    put(look, *this, cmdedit, "cmdEdit", "",
+        {right - 2 * grid::buttonwidth - grid::gap, bottom, grid::buttonwidth, grid::buttonheight});
     cmdedit.tooltip = "Change item data";
     cmdedit.accesskey = 'V';
-    put(look, *this, cmdok, "cmdok", "OK",
-        {side + sidewidth - grid::buttonwidth, bottom, grid::buttonwidth, grid::buttonheight});
+    put(look, *this, cmdok, "cmdok", "OK", {right - grid::buttonwidth, bottom, grid::buttonwidth, grid::buttonheight});
     cmdok.tooltip = "Click here to continue";
     cmdok.accesskey = 'O';
 }

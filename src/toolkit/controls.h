@@ -82,6 +82,7 @@ enum class Align { left, centre, right };
 struct Label : Control {
     Label() : Control(Kind::label) {}
     Align align = Align::left;
+    Control* names = nullptr;   // the field beside it that it names
     bool outlined = false;      // a thin darker edge, as round a row that something is dropped on
     double textwidth = 0;       // the text wraps within this width; 0 for the whole label
     std::function<void()> drop; // a dragged bar was dropped here; a label with this event is a drop target
@@ -115,8 +116,10 @@ struct TextBox : Control {
 struct List : Control {
     List() : Control(Kind::list) {}
     std::vector<std::string> lines;
-    std::vector<bool> selected;                  // one flag a line; shown in colour
-    bool multiselect = false;                    // a click toggles a line and nothing else
+    std::vector<bool> selected; // one flag a line; shown in colour
+    int columns = 1;            // the lines stand in
+    bool multiselect = false;   // a click toggles a line and nothing else
+    bool pushesup = false;      // a click pushes a line up: the lines fill the list, and those that can go up show it
     std::function<void(std::int16_t line)> pick; // a person clicked this line
 };
 
@@ -159,7 +162,7 @@ struct Screen {
     std::string name;
     std::string caption;
     Colour back;
-    PictureRef backdrop; // stretched over the whole screen
+    PictureRef backdrop; // behind the controls, whole and in its own shape, in the middle of the screen
     std::int16_t windowstate = normal;
     double left = 0; // outer position and size, with frame and title bar
     double top = 0;

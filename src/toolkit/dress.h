@@ -46,6 +46,7 @@ void putcaptioned(const Look& look, Holder& holder, const Caption& caption, Cont
     put(look, holder, field, std::move(name), std::move(text),
         {place.left + caption.width, place.top, place.width - caption.width, place.height});
     field.says = caption.text;
+    caption.label.names = &field;
 }
 
 // Options stand one below the other in a bordered frame: the place of option `at`, counted from 0, in a frame of a

@@ -19,6 +19,7 @@ struct Message {
     std::string text;
     std::string title;
     bool question = false; // buttons Yes and No, else OK
+    bool large = false;    // in large letters
 };
 
 struct LoadedPicture {

@@ -123,6 +123,11 @@ void selectline(List& list, std::int16_t line, bool selected)
     }
 }
 
+void showline(Combo& combo, std::int16_t line)
+{
+    assign(combo, combo.position, line);
+}
+
 void place(Control& control, const Place& place)
 {
     assign(control, control.place, place);
@@ -186,6 +191,17 @@ void enddrag(Button& bar)
         bar.screen->dragged = nullptr;
         changed(bar);
     }
+}
+
+const Label* rowof(const Button& bar)
+{
+    for (const Control* control : bar.screen->controls) {
+        if (control->kind == Kind::label && static_cast<const Label*>(control)->drop &&
+            control->container == bar.container && control->place.top == bar.place.top) {
+            return static_cast<const Label*>(control);
+        }
+    }
+    return nullptr;
 }
 
 void setcaption(Screen& screen, std::string caption)

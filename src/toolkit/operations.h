@@ -37,8 +37,10 @@ void hide(Control& control);
 void disable(Control& control); // for good; also takes the focus off it, with no event
 void setfontsize(Control& control, double points);
 void setpicture(Picture& control, PictureRef picture);
-void startdrag(Button& bar); // picks the bar up; a bar picked up before is put down
-void enddrag(Button& bar);   // nothing where this bar is not the one picked up
+void showline(Combo& combo, std::int16_t line); // makes it the line last picked; raises nothing and leaves the text
+void startdrag(Button& bar);                    // picks the bar up; a bar picked up before is put down
+void enddrag(Button& bar);                      // nothing where this bar is not the one picked up
+const Label* rowof(const Button& bar); // the row that a bar stands on since it was dropped there; none elsewhere
 
 // ---- screens
 void load(Screen& screen);        // the first touch of a screen runs its load; later calls do nothing
@@ -55,6 +57,7 @@ void fitcontents(Screen& screen, double margin);
 
 // ---- the rest
 void messagebox(std::string text, std::string_view title = applicationtitle);
+void announce(std::string text); // a message in large letters
 bool askyesno(std::string text, std::string_view title);
 Size displaysize();
 Size framesize(); // what a window's frame and title bar add to its inside; 0 while not known

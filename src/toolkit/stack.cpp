@@ -122,7 +122,12 @@ void closescreen(Screen& screen)
 
 void messagebox(std::string text, std::string_view title)
 {
-    showmessage({std::move(text), std::string(title), false});
+    showmessage({std::move(text), std::string(title)});
+}
+
+void announce(std::string text)
+{
+    showmessage({std::move(text), std::string(applicationtitle), false, true});
 }
 
 bool askyesno(std::string text, std::string_view title)

@@ -38,6 +38,47 @@ bool movefocus(Control& control)
     return true;
 }
 
+void stepped(Spin& spin, int step)
+{
+    const std::int16_t number = roundtoint16(textvalue(spin.buddy->text) + step);
+    settext(*spin.buddy, numbertext(std::clamp(number, spin.low, spin.high)));
+}
+
+// Letters beyond ASCII stay as they are.
+std::string lowercase(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(), [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    });
+    return text;
+}
+
+// The line that a person means with a text: the first that is the same, else the only one of those that hold it,
+// whatever the case of the letters. -1 for none.
+std::int16_t linemeant(const std::vector<std::string>& lines, const std::string& text)
+{
+    const std::string wanted = lowercase(text);
+    if (wanted.empty()) {
+        return -1;
+    }
+    std::int64_t same = -1;
+    std::int64_t holding = -1;
+    std::int64_t count = 0;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const auto at = static_cast<std::int64_t>(i);
+        if (lines[i] == text) {
+            return index16(at);
+        }
+        const std::string line = lowercase(lines[i]);
+        same = same < 0 && line == wanted ? at : same;
+        if (line.find(wanted) != std::string::npos) {
+            holding = at;
+            ++count;
+        }
+    }
+    return index16(same >= 0 ? same : count == 1 ? holding : -1);
+}
+
 // A refused or ended screen takes no more of a person's actions.
 bool usable(const Screen& screen)
 {
@@ -177,13 +218,31 @@ bool usertype(Combo& combo, std::string text)
     return true;
 }
 
+bool userreturn(Combo& combo)
+{
+    const std::int16_t line = linemeant(combo.lines, combo.text);
+    return line >= 0 && userpick(combo, line);
+}
+
 bool userstep(Spin& spin, int step)
 {
     if (spin.buddy == nullptr || !reachable(*spin.buddy) || !movefocus(spin)) {
         return false;
     }
-    const std::int16_t number = roundtoint16(textvalue(spin.buddy->text) + step);
-    settext(*spin.buddy, numbertext(std::clamp(number, spin.low, spin.high)));
+    stepped(spin, step);
+    return true;
+}
+
+bool userstep(TextBox& box, int step)
+{
+    const auto isof = [&box](const Control* control) {
+        return control->kind == Kind::spin && static_cast<const Spin*>(control)->buddy == &box;
+    };
+    const auto spin = std::find_if(box.screen->controls.begin(), box.screen->controls.end(), isof);
+    if (spin == box.screen->controls.end() || !movefocus(box)) {
+        return false;
+    }
+    stepped(static_cast<Spin&>(**spin), step);
     return true;
 }
 

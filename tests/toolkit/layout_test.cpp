@@ -54,14 +54,14 @@ std::string placesof(const std::vector<Box>& boxes)
 
 std::string arranged(std::vector<Box> boxes)
 {
-    arrange(boxes, {400, 300});
+    arrange(boxes, {400, 300}, {32, 0});
     return placesof(boxes);
 }
 
 std::string planned(std::vector<Box> boxes, bool centred = false)
 {
-    arrange(boxes, {400, 300});
-    const CanvasPlan plan = plancanvas(boxes, {400, 300}, 14, centred);
+    arrange(boxes, {400, 300}, {32, 0});
+    const CanvasPlan plan = plancanvas(boxes, {400, 300}, 14, 8, centred);
     return textof({plan.origin, plan.canvas});
 }
 
@@ -106,7 +106,7 @@ TEST(LayoutTest, AFrameGrowsWithItsContents)
 TEST(LayoutTest, AFrameCutsNothingOff)
 {
     std::vector<Box> boxes = {frame({50, 50, 40, 40}, {leaf({-20, -10, 100, 20}), leaf({10, 30, 100, 90})}, false)};
-    arrange(boxes, {400, 300});
+    arrange(boxes, {400, 300}, {32, 0});
     EXPECT_EQ(placesof(boxes), "30,40 130x130 (-20,-10 100x20; 10,30 100x90; ); ");
     EXPECT_EQ(boxes[0].origin, QPoint(20, 10));
 }
@@ -117,7 +117,7 @@ TEST(LayoutTest, TheCanvasHoldsWhatMustBeReached)
     EXPECT_EQ(planned({leaf({0, 0, 401, 200})}), "0,0 409x286");
     EXPECT_EQ(planned({leaf({0, 0, 380, 310})}), "0,0 386x318");
     EXPECT_EQ(planned({leaf({0, 0, 390, 310})}), "0,0 398x318"); // the one bar takes the room of the other
-    EXPECT_EQ(planned({leaf({-50, 0, 380, 310})}), "50,0 386x318");
+    EXPECT_EQ(planned({leaf({-50, 0, 380, 310})}), "58,0 386x318");
     EXPECT_EQ(planned({frame({-50, -50, 900, 900}, {leaf({60, 60, 300, 200})}, false)}), "0,0 400x300");
     EXPECT_EQ(planned({frame({0, 0, 500, 100}, {})}), "0,0 508x286");
 }
@@ -139,8 +139,8 @@ RC_GTEST_PROP(LayoutTest, NothingIsLost, ())
         const QRect record(number(-300, 500), number(-300, 500), number(1, 300), number(1, 100));
         boxes.push_back(number(0, 2) == 0 ? leaf(record) : text(record, number(0, 200)));
     }
-    arrange(boxes, {400, 300});
-    const CanvasPlan plan = plancanvas(boxes, {400, 300}, 14, number(0, 2) == 0);
+    arrange(boxes, {400, 300}, {32, 0});
+    const CanvasPlan plan = plancanvas(boxes, {400, 300}, 14, 8, number(0, 2) == 0);
     const QRect canvas(QPoint(0, 0), plan.canvas);
     for (const Box& a : boxes) {
         RC_ASSERT(canvas.contains(a.placed.translated(plan.origin)));

@@ -5,7 +5,7 @@
 
 namespace brindor {
 
-std::array<FormPlacement, 11> placements;
+std::array<FormPlacement, 11> placements = firstplacements;
 
 namespace {
 

@@ -19,6 +19,9 @@ struct FormPlacement {
 
 enum PlacementRow : std::int16_t { mchoicerow = 0, qsortrow = 1, qmatchrow = 2, showscorrow = 3 };
 
+// As the screens are made. The score screen leaves the answered question in view behind it.
+inline constexpr std::array<FormPlacement, 11> firstplacements = {{{}, {}, {}, {.height = 5400, .width = 8400}}};
+
 // Rows 0 to 3 belong to the screens above. Rows 4 to 9 go through the settings file unchanged; row 10 is in no file.
 // Written by the settings and by placeform.
 extern std::array<FormPlacement, 11> placements;

@@ -43,7 +43,7 @@ void setdefaults()
     nquestion = usualquestions;
     logstatus = 1;
     titlepicture = "TITLE.BMP";
-    placements.fill({});
+    placements = firstplacements;
     typeenabled.fill(0);
     std::fill(typeenabled.begin() + 1, typeenabled.begin() + 1 + lasttype, std::int16_t{-1});
     curperiod = 0;

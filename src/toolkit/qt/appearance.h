@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/controls.h"
+#include "toolkit/qt/zoom.h"
 
 #include <QColor>
 #include <QFont>
@@ -11,13 +12,16 @@
 // How the windows look: colours, fonts and the few shapes that every kind of control is drawn with.
 namespace brindor::toolkit::qt {
 
-inline constexpr int textmargin = 8; // pixels between the edge of a coloured surface and its text
+inline constexpr double textmargin = 8; // pixels at zoom 1 between the edge of a coloured surface and its text
 
-// The style, palette and fonts of the whole application; nothing of the desktop's theme is left in force.
+// The style, palette and icon of the whole application; nothing of the desktop's theme is left in force.
 void dressapplication();
 
+// The fonts of tool tips and messages, at the base zoom. Once more after each change of it.
+void dressfonts();
+
 QColor qtcolour(Colour colour);
-QFont qtfont(const Font& font);
+QFont qtfont(const Font& font, Zoom zoom);
 
 // Every role that a widget of the control draws with.
 QPalette palettefor(const Control& control);
@@ -25,9 +29,9 @@ QPalette palettefor(const Control& control);
 // The colour of the control's letters, paler while it cannot be used.
 QColor lettercolour(const Control& control, bool usable);
 
-QColor edgecolour(const QColor& surface); // a darker line round a surface of this colour
-
-QColor hovercolour(const QColor& surface); // the surface while the mouse is over it
+QColor edgecolour(const QColor& surface);   // a darker line that stands out from a surface of this colour
+QColor hovercolour(const QColor& surface);  // the surface while the mouse is over it
+QColor targetcolour(const QColor& surface); // the surface while what is dragged would be dropped on it
 
 struct SurfaceLook {
     bool hovered = false;
@@ -42,5 +46,8 @@ void drawsurface(QPainter& painter, const QRect& rect, const QColor& colour, con
 
 // The line round the control that has the keyboard; seen on dark surfaces as well.
 void drawfocus(QPainter& painter, const QRect& rect, bool ondark = false);
+
+// A filled arrow in the middle of a rect, `size` pixels wide.
+void drawarrow(QPainter& painter, const QRectF& rect, double size, bool up, const QColor& colour);
 
 } // namespace brindor::toolkit::qt

@@ -4,7 +4,10 @@
 #include "toolkit/qt/screenwindow.h"
 #include "toolkit/user.h"
 
+#include <QApplication>
+#include <QBasicTimer>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPointer>
 
@@ -20,7 +23,6 @@ public:
     void refresh()
     {
         FlatButton::refresh();
-        setAccessibleDescription(ispickedup() ? "picked up" : "");
         if (ispickedup()) {
             raise(); // it will lie on top of the bars that were dropped before
         }
@@ -33,12 +35,22 @@ protected:
             return;
         }
         held_ = true;
+        pressedat_ = event->position().toPoint();
         setCursor(Qt::ClosedHandCursor);
         userpress(record());
         pickedup_ = ispickedup();
     }
 
-    void mouseMoveEvent(QMouseEvent* event) override { aimat(held_ && ispickedup() ? viewunder(*event) : nullptr); }
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        hand_ = event->globalPosition().toPoint();
+        const QPoint moved = event->position().toPoint() - pressedat_;
+        if (held_ && ghost_ == nullptr && ispickedup() &&
+            moved.manhattanLength() >= QApplication::startDragDistance()) {
+            takealong();
+        }
+        follow();
+    }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
@@ -47,11 +59,11 @@ protected:
         }
         held_ = false;
         setCursor(Qt::OpenHandCursor);
-        aimat(nullptr);
+        letgo();
         if (pickedup_ && !ispickedup()) {
             return; // put down by Escape on the way
         }
-        ControlView* target = viewunder(*event);
+        ControlView* target = screenwindow().viewat(event->globalPosition().toPoint());
         if (target != nullptr && &target->widget() == this) {
             userclick(record());
         } else if (!isdroptarget(target) || !userdrop(static_cast<Label&>(target->control()))) {
@@ -70,12 +82,57 @@ protected:
 
     void keyReleaseEvent(QKeyEvent* event) override { event->ignore(); }
 
+    // A bar that is held at the edge of a window that is too low scrolls it, also while the hand is still.
+    void timerEvent(QTimerEvent* event) override
+    {
+        if (event->timerId() == scroller_.timerId()) {
+            screenwindow().scrolltowards(hand_);
+            follow();
+        }
+    }
+
 private:
     bool ispickedup() const { return record().screen->dragged == &record(); }
 
-    ControlView* viewunder(const QMouseEvent& event) const
+    ScreenWindow& screenwindow() const { return *static_cast<ScreenWindow*>(window()); }
+
+    // A lighter copy of the bar goes with the hand, and its home is dimmed.
+    void takealong()
     {
-        return static_cast<ScreenWindow*>(window())->viewat(event.globalPosition().toPoint());
+        const QPixmap picture = grab();
+        ghost_ = new QLabel(window());
+        ghost_->setAttribute(Qt::WA_TransparentForMouseEvents); // the drop does not see it
+        ghost_->setFixedSize(size());
+        QPixmap lighter(picture.size());
+        lighter.setDevicePixelRatio(picture.devicePixelRatio());
+        lighter.fill(Qt::transparent);
+        QPainter painter(&lighter);
+        painter.setOpacity(0.8);
+        painter.drawPixmap(0, 0, picture);
+        painter.end();
+        ghost_->setPixmap(lighter);
+        ghost_->show();
+        dim(true);
+        scroller_.start(scrollperiod, this);
+    }
+
+    void follow()
+    {
+        if (ghost_ == nullptr || !ispickedup()) {
+            letgo();
+            return;
+        }
+        ghost_->move(window()->mapFromGlobal(hand_) - pressedat_);
+        aimat(screenwindow().viewat(hand_));
+    }
+
+    void letgo()
+    {
+        scroller_.stop();
+        delete ghost_;
+        ghost_ = nullptr;
+        dim(false);
+        aimat(nullptr);
     }
 
     static bool isdroptarget(const ControlView* view)
@@ -99,7 +156,13 @@ private:
         }
     }
 
+    static constexpr int scrollperiod = 30; // milliseconds
+
     QPointer<ControlView> aimedat_;
+    QPointer<QLabel> ghost_; // goes with the window, where the screen closes in the middle of a drag
+    QBasicTimer scroller_;
+    QPoint pressedat_; // in the bar
+    QPoint hand_;      // on the display
     bool held_ = false;
     bool pickedup_ = false; // the press picked the bar up
 };

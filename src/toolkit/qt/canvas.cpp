@@ -15,12 +15,15 @@ Canvas::Canvas(const Screen& screen) : screen_(screen)
 void Canvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    const QPixmap& backdrop = backdrop_.at(screen_.backdrop, size(), devicePixelRatioF());
-    if (backdrop.isNull() || backdrop.hasAlphaChannel()) {
+    const PictureRef& picture = screen_.backdrop;
+    const QSize own = picture == nullptr ? QSize() : QSize(picture->width, picture->height);
+    const QSize shape = own.scaled(size(), Qt::KeepAspectRatio);
+    const QPixmap& backdrop = backdrop_.at(picture, shape, devicePixelRatioF());
+    if (backdrop.isNull() || backdrop.hasAlphaChannel() || shape != size()) {
         painter.fillRect(event->rect(), qtcolour(screen_.back));
     }
     if (!backdrop.isNull()) {
-        painter.drawPixmap(0, 0, backdrop);
+        painter.drawPixmap((width() - shape.width()) / 2, (height() - shape.height()) / 2, backdrop);
     }
 }
 

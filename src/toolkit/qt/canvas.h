@@ -7,7 +7,7 @@
 
 namespace brindor::toolkit::qt {
 
-// The ground on which a screen's controls lie: its colour, or its picture stretched over the whole of it.
+// The ground on which a screen's controls lie: its colour, and its picture in the middle of it.
 class Canvas : public QWidget {
 public:
     explicit Canvas(const Screen& screen);

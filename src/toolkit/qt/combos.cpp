@@ -6,7 +6,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
-#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QStringListModel>
 
@@ -17,7 +17,7 @@ namespace brindor::toolkit::qt {
 namespace {
 
 constexpr int rowsatonce = 15;
-constexpr int linemargin = 3; // pixels, as the fields beside it have them
+constexpr double linemargin = 3; // pixels at zoom 1, as the fields beside it have them
 
 class ComboWidget : public QComboBox {
 public:
@@ -28,9 +28,10 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
         setMaxVisibleItems(rowsatonce);
-        lineEdit()->setTextMargins(linemargin, 0, linemargin, 0);
         // Leaving the field is no pick, even if what stands in it is the text of a line.
         disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+        disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
+        connect(lineEdit(), &QLineEdit::returnPressed, this, [this] { userreturn(combo_); });
         setModel(lines_);
         auto* completer = new QCompleter(lines_, this);
         completer->setCaseSensitivity(Qt::CaseInsensitive);
@@ -52,6 +53,9 @@ public:
     void refresh()
     {
         const QSignalBlocker blocked(this);
+        const int margin = zoomof(*this).length(linemargin);
+        lineEdit()->setTextMargins(margin, 0, margin, 0);
+        lineEdit()->setAccessibleName(accessibleName());
         refreshlines();
         if (currentIndex() != combo_.position) {
             setCurrentIndex(combo_.position);
@@ -63,6 +67,15 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); } // scrolls the window, picks nothing
+
+    // Return is never the window's.
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        QComboBox::keyPressEvent(event);
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            event->accept();
+        }
+    }
 
     // A completion that was looked at and not taken does not stay.
     void focusOutEvent(QFocusEvent* event) override

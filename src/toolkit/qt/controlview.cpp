@@ -52,9 +52,10 @@ void ControlView::refreshlook()
         fore_ = control_.fore;
         widget_.setPalette(palettefor(control_));
     }
-    if (!fresh_ || font_ != control_.font) {
+    if (const Zoom zoom = zoomof(widget_); !fresh_ || font_ != control_.font || zoom_ != zoom) {
         font_ = control_.font;
-        widget_.setFont(qtfont(font_));
+        zoom_ = zoom;
+        widget_.setFont(qtfont(font_, zoom));
     }
 }
 

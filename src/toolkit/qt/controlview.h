@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/controls.h"
+#include "toolkit/qt/zoom.h"
 
 #include <QObject>
 #include <QWidget>
@@ -40,6 +41,7 @@ private:
     Colour back_;
     Colour fore_;
     Font font_;
+    Zoom zoom_;
     std::string words_;
     std::string tooltip_;
 };

@@ -11,8 +11,9 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
-constexpr int sidemargin = 6;
-constexpr int topmargin = 2;
+// In pixels at zoom 1.
+constexpr double sidemargin = 6;
+constexpr double topmargin = 2;
 
 } // namespace
 
@@ -30,12 +31,20 @@ void FlatButton::refresh()
 
 int FlatButton::heightneeded(int width)
 {
-    return text_.heightfor(width - 2 * sidemargin) + 2 * topmargin;
+    const Zoom zoom = zoomof(*this);
+    return text_.heightfor(width - 2 * zoom.length(sidemargin)) + 2 * zoom.length(topmargin);
+}
+
+void FlatButton::dim(bool on)
+{
+    dimmed_ = on;
+    update();
 }
 
 void FlatButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
+    painter.setOpacity(dimmed_ ? 0.35 : 1);
     const bool pickedup = button_.screen->dragged == &button_;
     drawsurface(painter, rect(), qtcolour(button_.back),
                 {.hovered = isEnabled() && underMouse(),
@@ -43,8 +52,10 @@ void FlatButton::paintEvent(QPaintEvent* /*event*/)
                  .strongedge = button_.screen->defaultbutton == &button_,
                  .pickedup = pickedup,
                  .focused = hasFocus()});
-    text_.draw(painter, rect().adjusted(sidemargin, topmargin, -sidemargin, -topmargin),
-               lettercolour(button_, isEnabled()));
+    const Zoom zoom = zoomof(*this);
+    const int side = zoom.length(sidemargin);
+    const int top = zoom.length(topmargin);
+    text_.draw(painter, rect().adjusted(side, top, -side, -top), lettercolour(button_, isEnabled()));
 }
 
 void FlatButton::keyPressEvent(QKeyEvent* event)

@@ -19,10 +19,12 @@ protected:
     void keyPressEvent(QKeyEvent* event) override; // Return presses the button that has the focus
     bool event(QEvent* event) override;            // an access key presses at once
     Button& record() const { return button_; }
+    void dim(bool on); // shows that it is elsewhere for now
 
 private:
     Button& button_;
     WrappedText text_;
+    bool dimmed_ = false;
 };
 
 } // namespace brindor::toolkit::qt

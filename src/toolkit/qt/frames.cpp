@@ -41,7 +41,8 @@ protected:
         painter.setPen(QPen(edgecolour(back), 1));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, line + 0.5, -0.5, -0.5), 3, 3);
         if (!caption.trimmed().isEmpty()) {
-            const QRect words(textmargin, 0, metrics.horizontalAdvance(caption) + 8, metrics.height());
+            const int margin = zoomof(*this).length(textmargin);
+            const QRect words(margin, 0, metrics.horizontalAdvance(caption) + margin, metrics.height());
             painter.fillRect(words, back);
             painter.setPen(lettercolour(frame_, isEnabled()));
             painter.drawText(words, Qt::AlignCenter | Qt::TextSingleLine, caption);

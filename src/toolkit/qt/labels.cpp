@@ -2,8 +2,8 @@
 #include "toolkit/qt/clicklabel.h"
 #include "toolkit/qt/controlview.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/twips.h"
 #include "toolkit/qt/wrappedtext.h"
+#include "toolkit/qt/zoom.h"
 #include "toolkit/user.h"
 
 #include <QPainter>
@@ -11,6 +11,8 @@
 namespace brindor::toolkit::qt {
 
 namespace {
+
+constexpr double topmargin = 3; // pixels at zoom 1, of a coloured surface
 
 // A label that shows its text whole. One with a drop event is also a thing to click and to Tab to.
 class LabelWidget : public ClickLabel {
@@ -27,8 +29,9 @@ public:
     void refresh()
     {
         const QString text = shown(label_.text);
-        if (QLabel::text() != text) {
-            setText(text);
+        // With a field that it names a label would take "&" for the mark of an access key.
+        if (const QString spoken = label_.names == nullptr ? text : withoutmnemonic(text); QLabel::text() != spoken) {
+            setText(spoken);
         }
         text_.set(text, font(), label_.align);
     }
@@ -53,11 +56,13 @@ protected:
         const bool aimedat = highlighted_ || (label_.drop && underMouse() && label_.screen->dragged != nullptr);
         const QColor back = qtcolour(label_.back);
         if (label_.opaque) {
-            painter.fillRect(rect(), aimedat ? hovercolour(back) : back);
+            painter.fillRect(rect(), aimedat ? targetcolour(back) : back);
         }
         if (label_.outlined) {
-            painter.setPen(QPen(edgecolour(back), aimedat ? 3 : 1));
-            painter.drawRect(rect().adjusted(0, 0, -1, -1));
+            const int width = aimedat ? 3 : 1;
+            painter.setPen(QPen(edgecolour(aimedat ? targetcolour(back) : back), width, Qt::SolidLine, Qt::SquareCap,
+                                Qt::MiterJoin));
+            painter.drawRect(rect().adjusted(width / 2, width / 2, -1 - width / 2, -1 - width / 2));
         }
         if (hasFocus()) {
             drawfocus(painter, rect());
@@ -80,7 +85,10 @@ private:
     {
         const Colour around = label_.container == nullptr ? label_.screen->back : label_.container->back;
         const bool surface = label_.outlined || (label_.opaque && label_.back != around);
-        return surface ? QMargins(textmargin, 3, textmargin, 3) : QMargins();
+        const Zoom zoom = zoomof(*this);
+        const int side = zoom.length(textmargin);
+        const int top = zoom.length(topmargin);
+        return surface ? QMargins(side, top, side, top) : QMargins();
     }
 
     // Letters can be read on whatever picture the player has chosen.
@@ -95,7 +103,7 @@ private:
     {
         const QMargins margins = inner();
         const int whole = width - margins.left() - margins.right();
-        return label_.textwidth > 0 ? std::min(whole, pixels(label_.textwidth) - margins.left()) : whole;
+        return label_.textwidth > 0 ? std::min(whole, zoomof(*this).pixels(label_.textwidth) - margins.left()) : whole;
     }
 
     Label& label_;

@@ -6,9 +6,6 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
-constexpr int leasttextwidth = 32; // a text is never squeezed below this
-constexpr int endmargin = 8;       // between the last control and the edge that is scrolled to
-
 int bottomof(const QRect& rect)
 {
     return rect.top() + rect.height();
@@ -65,17 +62,18 @@ void collect(const std::vector<Box>& boxes, QPoint origin, bool visibleonly, QRe
 
 } // namespace
 
-QRect arrange(std::vector<Box>& boxes, QSize own)
+QRect arrange(std::vector<Box>& boxes, QSize own, TextRoom room)
 {
     std::vector<int> needed;
     std::vector<QRect> rects; // relative to the box's own record corner
     for (Box& box : boxes) {
         QRect rect(QPoint(0, 0), box.record.size());
         if (box.container) {
-            rect = arrange(box.children, box.record.size());
+            rect = arrange(box.children, box.record.size(), room);
             box.origin = -rect.topLeft();
         } else if (box.heightfor) {
-            rect.setWidth(std::max(rect.width(), leasttextwidth));
+            const int inside = box.narrows ? own.width() - box.record.left() - room.spare : rect.width();
+            rect.setWidth(std::max(std::min(rect.width(), inside), room.leasttextwidth));
             rect.setHeight(std::max(rect.height(), box.heightfor(rect.width())));
         }
         rects.push_back(rect);
@@ -86,6 +84,9 @@ QRect arrange(std::vector<Box>& boxes, QSize own)
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         Box& box = boxes[i];
         box.placed = rects[i].translated(box.record.left(), heights.at(box.record.top()));
+        if (box.fillsrow) {
+            box.placed.setHeight(heights.at(bottomof(box.record)) - heights.at(box.record.top()));
+        }
         if (box.visible) {
             whole = whole.united(box.placed);
         }
@@ -100,11 +101,12 @@ QRect reachofboxes(const std::vector<Box>& boxes, bool visibleonly)
     return reach;
 }
 
-CanvasPlan plancanvas(const std::vector<Box>& boxes, QSize seen, int bar, bool centred)
+CanvasPlan plancanvas(const std::vector<Box>& boxes, QSize seen, int bar, int margin, bool centred)
 {
     const QRect reach = reachofboxes(boxes, true);
     const QRect whole = reachofboxes(boxes, false);
-    const QPoint hidden(std::max(0, -reach.left()), std::max(0, -reach.top())); // what lies off the upper left corner
+    // What lies off the upper left corner, and a margin before it.
+    const QPoint hidden(reach.left() < 0 ? margin - reach.left() : 0, reach.top() < 0 ? margin - reach.top() : 0);
     const QSize need(reach.left() + reach.width() + hidden.x(), bottomof(reach) + hidden.y());
 
     const bool vertical =
@@ -113,12 +115,12 @@ CanvasPlan plancanvas(const std::vector<Box>& boxes, QSize seen, int bar, bool c
     const QSize inside(seen.width() - (vertical ? bar : 0), seen.height() - (horizontal ? bar : 0));
     CanvasPlan plan{inside, hidden};
     if (horizontal) {
-        plan.canvas.setWidth(need.width() + endmargin);
+        plan.canvas.setWidth(need.width() + margin);
     } else if (centred && whole.width() < inside.width()) {
         plan.origin.setX((inside.width() - whole.width()) / 2 - whole.left());
     }
     if (vertical) {
-        plan.canvas.setHeight(need.height() + endmargin);
+        plan.canvas.setHeight(need.height() + margin);
     } else if (centred && whole.height() < inside.height()) {
         plan.origin.setY((inside.height() - whole.height()) / 2 - whole.top());
     }

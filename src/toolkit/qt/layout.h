@@ -19,6 +19,8 @@ struct Box {
     bool visible = true;
     bool container = false;                  // has children, if only none
     bool counts = true;                      // must be reached: all but containers that have no border
+    bool fillsrow = false;                   // lies on a row, as high as that becomes
+    bool narrows = false;                    // a text that wraps rather than reach beyond its container
     std::function<int(int width)> heightfor; // what a wrapped text needs at a width; none for other controls
     std::vector<Box> children;
 
@@ -30,7 +32,12 @@ struct Box {
 // and what lies below it moves down with its own order and gaps kept: boxes with the same top stay together. A
 // container grows with its children, also to the left and upwards, so that none is cut off. Gives back the rect that
 // the container needs.
-QRect arrange(std::vector<Box>& boxes, QSize own);
+// No text is squeezed below `leasttextwidth`, and `spare` is kept free of texts that narrow, for a scroll bar.
+struct TextRoom {
+    int leasttextwidth = 0;
+    int spare = 0;
+};
+QRect arrange(std::vector<Box>& boxes, QSize own, TextRoom room);
 
 // The rect round all boxes that must be reached, of those that are visible or of all of them.
 QRect reachofboxes(const std::vector<Box>& boxes, bool visibleonly);
@@ -40,8 +47,9 @@ struct CanvasPlan {
     QPoint origin; // where the records' corner lies on the canvas
 };
 
-// `seen` is the inside of the window without scroll bars, `bar` the width of one. With `centred`, contents that are
-// smaller than the window stand in its middle.
-CanvasPlan plancanvas(const std::vector<Box>& boxes, QSize seen, int bar, bool centred);
+// `seen` is the inside of the window without scroll bars, `bar` the width of one, `margin` what is left free between
+// the outermost control and an edge that is scrolled to. With `centred`, contents that are smaller than the window
+// stand in its middle.
+CanvasPlan plancanvas(const std::vector<Box>& boxes, QSize seen, int bar, int margin, bool centred);
 
 } // namespace brindor::toolkit::qt

@@ -16,8 +16,12 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
-constexpr int leastrowheight = 32;
-constexpr int tickwidth = 20; // for the mark before a selected line of a list with many
+// In pixels at zoom 1.
+constexpr double leastrowheight = 32;
+constexpr double boxsize = 14; // of the box before each line of a list in which many can be selected
+constexpr double boxgap = 8;
+constexpr double arrowsize = 16; // at the end of a line that a click pushes up
+constexpr double rowmargin = 3;
 
 // Draws a line whole, wrapped in its row, in the list's own colours.
 class LineDelegate : public QStyledItemDelegate {
@@ -26,9 +30,13 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        const int width = widget_.viewport()->width();
+        const int width = widget_.viewport()->width() / list_.columns;
         text_.set(index.data().toString(), option.font, Align::left);
-        return {width, std::max(leastrowheight, text_.heightfor(width - left() - textmargin) + 6)};
+        const int text = text_.heightfor(width - left() - right()) + 2 * zoom().length(rowmargin);
+        // Rounded down, so that as many lines as fit at zoom 1 fit at every zoom.
+        const int least = static_cast<int>(leastrowheight * zoom().factor());
+        const int share = list_.pushesup ? widget_.viewport()->height() / std::max(1, widget_.count()) : 0;
+        return {width, std::max({least, text, share})};
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
@@ -40,11 +48,20 @@ public:
         const QColor ink = palette.color(widget_.isEnabled() ? QPalette::Normal : QPalette::Disabled,
                                          selected ? QPalette::HighlightedText : QPalette::Text);
         painter->fillRect(option.rect, hovered ? hovercolour(back) : back);
-        if (selected && list_.multiselect) {
-            drawtick(*painter, option.rect, ink);
+        if (list_.multiselect) {
+            drawbox(*painter, option.rect, ink, selected);
         }
+        if (list_.pushesup && index.row() > 0) {
+            painter->fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), 1)), edgecolour(back));
+            if (hovered) {
+                QRect end = option.rect;
+                end.setLeft(end.right() - right());
+                drawarrow(*painter, end, zoom().length(arrowsize), true, ink);
+            }
+        }
+        const int top = zoom().length(rowmargin);
         text_.set(index.data().toString(), option.font, Align::left);
-        text_.draw(*painter, option.rect.adjusted(left(), 3, -textmargin, -3), ink);
+        text_.draw(*painter, option.rect.adjusted(left(), top, -right(), -top), ink);
         if (widget_.hasFocus() && index.row() == widget_.currentRow()) {
             drawfocus(*painter, option.rect, selected);
         }
@@ -57,15 +74,24 @@ public:
     }
 
 private:
-    int left() const { return list_.multiselect ? textmargin + tickwidth : textmargin; }
+    Zoom zoom() const { return zoomof(widget_); }
+    int left() const { return zoom().length(textmargin + (list_.multiselect ? boxsize + boxgap : 0)); }
+    int right() const { return zoom().length(textmargin + (list_.pushesup ? arrowsize + textmargin : 0)); }
 
-    static void drawtick(QPainter& painter, const QRect& row, const QColor& ink)
+    void drawbox(QPainter& painter, const QRect& row, const QColor& ink, bool ticked) const
     {
-        const QPointF middle(row.left() + textmargin + 6, row.center().y());
+        const double size = zoom().length(boxsize);
+        const QRectF box(row.left() + zoom().length(textmargin) + 0.5, row.center().y() - size / 2, size, size);
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(ink, 2));
-        painter.drawPolyline(QPolygonF({middle + QPointF(-5, 0), middle + QPointF(-1, 4), middle + QPointF(6, -5)}));
+        painter.setPen(QPen(ink, 1));
+        painter.drawRoundedRect(box, 2, 2);
+        if (ticked) {
+            painter.translate(box.topLeft());
+            painter.setPen(QPen(ink, size / 7));
+            painter.drawPolyline(
+                QPolygonF({{size * 0.2, size * 0.5}, {size * 0.42, size * 0.75}, {size * 0.82, size * 0.22}}));
+        }
         painter.restore();
     }
 
@@ -82,6 +108,7 @@ public:
         setSelectionMode(QAbstractItemView::NoSelection);
         setItemDelegate(new LineDelegate(list, this));
         setResizeMode(QListView::Adjust);
+        setWrapping(list.columns > 1);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         setMouseTracking(true);
@@ -111,6 +138,7 @@ public:
                 line->setData(Qt::CheckStateRole, state);
             }
         }
+        scheduleDelayedItemsLayout(); // also where the zoom has changed
         viewport()->update();
     }
 
@@ -131,6 +159,12 @@ protected:
         if (event->button() == Qt::LeftButton && row >= 0 && row == pressedrow_) {
             userpick(list_, index16(row));
         }
+    }
+
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QListWidget::resizeEvent(event);
+        scheduleDelayedItemsLayout();
     }
 
     void keyPressEvent(QKeyEvent* event) override

@@ -1,5 +1,6 @@
 #include "toolkit/qt/messages.h"
 
+#include "toolkit/qt/appearance.h"
 #include "toolkit/qt/qttext.h"
 
 #include <QAbstractButton>
@@ -11,7 +12,7 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
-constexpr int leastwidth = 380; // pixels
+constexpr double leastwidth = 380; // pixels at zoom 1
 
 // The box wraps between words only: one as long as a line may be broken anywhere.
 QString breakable(QString text)
@@ -20,30 +21,70 @@ QString breakable(QString text)
     return text.replace(longword, QString("\\1") + QChar(0x200b));
 }
 
+// A message in the game's own dress, which grows and shrinks with the zoom while it is open.
+class MessageBox : public QMessageBox {
+public:
+    MessageBox(const Message& message, QWidget* window) : QMessageBox(window), large_(message.large)
+    {
+        setObjectName("message");
+        setWindowTitle(shown(message.title));
+        setTextFormat(Qt::PlainText);
+        setText(breakable(unbroken(shown(message.text))));
+        setTextInteractionFlags(Qt::TextSelectableByMouse);
+        if (message.question) {
+            setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+            setEscapeButton(QMessageBox::No);
+        } else {
+            setStandardButtons(QMessageBox::Ok);
+        }
+        for (QAbstractButton* button : buttons()) {
+            button->setIcon({});
+        }
+        // Wide enough for the title to be read.
+        auto* grid = static_cast<QGridLayout*>(layout());
+        grid->addItem(width_ = new QSpacerItem(0, 0), grid->rowCount(), 0, 1, grid->columnCount());
+        fit();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QMessageBox::changeEvent(event);
+        if (event->type() == QEvent::ApplicationFontChange) {
+            fit();
+            QCoreApplication::sendPostedEvents(this, QEvent::LayoutRequest);
+            adjustSize();
+        }
+    }
+
+private:
+    void fit()
+    {
+        constexpr double plainpoints = 12;
+        constexpr double largepoints = 20;
+        constexpr double margin = 16;
+        constexpr double buttonwidth = 96;
+        constexpr double buttonheight = 32;
+        const Zoom zoom = basezoom();
+        setFont(qtfont({Face::plain, large_ ? largepoints : plainpoints, large_}, zoom));
+        const int around = zoom.length(margin);
+        layout()->setContentsMargins(around, around, around, around);
+        width_->changeSize(zoom.length(leastwidth), 0);
+        for (QAbstractButton* button : buttons()) {
+            button->setFont(qtfont({Face::plain, plainpoints, false}, zoom));
+            button->setMinimumSize(zoom.length(buttonwidth), zoom.length(buttonheight));
+        }
+    }
+
+    bool large_;
+    QSpacerItem* width_ = nullptr;
+};
+
 } // namespace
 
 bool showmessage(const Message& message, QWidget* window)
 {
-    QMessageBox box(window);
-    box.setObjectName("message");
-    box.setWindowTitle(shown(message.title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(breakable(shown(message.text)));
-    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    if (message.question) {
-        box.setIcon(QMessageBox::Question);
-        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        box.setEscapeButton(QMessageBox::No);
-    } else {
-        box.setIcon(QMessageBox::Information);
-        box.setStandardButtons(QMessageBox::Ok);
-    }
-    for (QAbstractButton* button : box.buttons()) {
-        button->setIcon({});
-    }
-    // Wide enough for the title to be read.
-    auto* grid = static_cast<QGridLayout*>(box.layout());
-    grid->addItem(new QSpacerItem(leastwidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    MessageBox box(message, window);
     const int answer = box.exec();
     return answer == QMessageBox::Ok || answer == QMessageBox::Yes;
 }

@@ -1,3 +1,4 @@
+#include "toolkit/qt/access.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/controlview.h"
 #include "toolkit/qt/keys.h"
@@ -16,16 +17,21 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
-constexpr int indicatorsize = 15;
-constexpr int indicatorgap = 8;
-constexpr int topmargin = 3;
+// In pixels at zoom 1.
+constexpr double indicatorsize = 15;
+constexpr double indicatorgap = 8;
+constexpr double topmargin = 3;
+constexpr double plainmargin = 2;
 
-// An option button whose text wraps. The whole of it can be clicked.
-class OptionWidget : public QRadioButton {
+// An option button whose text wraps. The whole of it can be clicked. One of a colour of its own is a card.
+class OptionWidget : public QRadioButton, public Pressable {
 public:
     OptionWidget(OptionButton& option, QWidget* parent) : QRadioButton(parent), option_(option)
     {
         setAttribute(Qt::WA_Hover);
+        if (option.press) {
+            setCursor(Qt::PointingHandCursor);
+        }
         connect(this, &QRadioButton::clicked, this, [this] {
             setFocus(Qt::OtherFocusReason);
             userclick(option_);
@@ -45,7 +51,20 @@ public:
         }
     }
 
-    int heightneeded(int width) { return text_.heightfor(width - textleft() - sidemargin()) + 2 * topmargin; }
+    int heightneeded(int width)
+    {
+        return text_.heightfor(width - textleft() - sidemargin()) + 2 * zoomof(*this).length(topmargin);
+    }
+
+    // What "press" of an assistive tool does: the same as a press of the mouse where the screen listens to that.
+    void pressfor() override
+    {
+        if (option_.press) {
+            userpress(option_);
+        } else {
+            click();
+        }
+    }
 
 protected:
     bool hitButton(const QPoint& at) const override { return rect().contains(at); }
@@ -55,17 +74,20 @@ protected:
         QPainter painter(this);
         const QColor back = qtcolour(option_.back);
         const bool hovered = isEnabled() && underMouse();
-        if (option_.opaque) {
-            painter.fillRect(rect(), hovered && onsurface() ? hovercolour(back) : back);
+        if (iscard()) {
+            drawsurface(painter, rect(), back, {.hovered = hovered, .strongedge = isChecked(), .focused = hasFocus()});
+        } else if (option_.opaque) {
+            painter.fillRect(rect(), back);
         }
-        const QRect textrect = rect().adjusted(textleft(), topmargin, -sidemargin(), -topmargin);
+        const Zoom zoom = zoomof(*this);
+        const int top = zoom.length(topmargin);
+        const int size = zoom.length(indicatorsize);
+        const QRect textrect = rect().adjusted(textleft(), top, -sidemargin(), -top);
         const int textheight = std::min(textrect.height(), text_.heightfor(textrect.width()));
         const int firstline = textrect.top() + (textrect.height() - textheight) / 2;
-        drawindicator(
-            painter, {sidemargin(), firstline + (text_.lineheight() - indicatorsize) / 2, indicatorsize, indicatorsize},
-            hovered);
+        drawindicator(painter, {sidemargin(), firstline + (text_.lineheight() - size) / 2, size, size}, hovered);
         text_.draw(painter, textrect, lettercolour(option_, isEnabled()));
-        if (hasFocus()) {
+        if (hasFocus() && !iscard()) {
             drawfocus(painter, rect());
         }
     }
@@ -98,8 +120,7 @@ protected:
     void nextCheckState() override {} // the record says which one is selected
 
 private:
-    // On a surface of a colour of its own the button keeps off the edge.
-    bool onsurface() const
+    bool iscard() const
     {
         const Colour around = option_.container == nullptr ? option_.screen->back : option_.container->back;
         return option_.opaque && option_.back != around;
@@ -120,8 +141,8 @@ private:
         }
     }
 
-    int sidemargin() const { return onsurface() ? textmargin : 2; }
-    int textleft() const { return sidemargin() + indicatorsize + indicatorgap; }
+    int sidemargin() const { return zoomof(*this).length(iscard() ? textmargin : plainmargin); }
+    int textleft() const { return sidemargin() + zoomof(*this).length(indicatorsize + indicatorgap); }
 
     void drawindicator(QPainter& painter, const QRect& where, bool hovered) const
     {
@@ -134,7 +155,8 @@ private:
         if (isChecked()) {
             painter.setPen(Qt::NoPen);
             painter.setBrush(ink);
-            painter.drawEllipse(QRectF(where).adjusted(4.2, 4.2, -4.2, -4.2));
+            const double inset = where.width() * 0.28;
+            painter.drawEllipse(QRectF(where).adjusted(inset, inset, -inset, -inset));
         }
         painter.restore();
     }

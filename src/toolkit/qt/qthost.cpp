@@ -1,23 +1,30 @@
 #include "toolkit/qt/qthost.h"
 
+#include "toolkit/qt/access.h"
+#include "toolkit/qt/appearance.h"
 #include "toolkit/qt/messages.h"
 #include "toolkit/qt/pictures.h"
 #include "toolkit/qt/screenwindow.h"
 #include "toolkit/qt/startviewer.h"
-#include "toolkit/qt/twips.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QScreen>
+#include <QWheelEvent>
 
 #include <algorithm>
 
 namespace brindor::toolkit {
 
-QtHost::QtHost() : before_(sethost(this))
+QtHost::QtHost(const std::string& zoomfile) : before_(sethost(this)), zooms_(zoomfile)
 {
     qApp->installEventFilter(this);
+    qt::installaccess();
+    if (!zoomfile.empty()) {
+        const QScreen& display = *QGuiApplication::primaryScreen();
+        usezoom(zooms_.of(display.size()).value_or(qt::startzoom(display.availableSize())));
+    }
 }
 
 QtHost::~QtHost()
@@ -104,11 +111,16 @@ void QtHost::activatetop()
     }
 }
 
+QScreen& QtHost::display() const
+{
+    return top() == nullptr ? *QGuiApplication::primaryScreen() : *top()->QWidget::screen();
+}
+
+// What of the display a window may take.
 Size QtHost::displaysize()
 {
-    const QScreen* display = top() == nullptr ? QGuiApplication::primaryScreen() : top()->QWidget::screen();
-    const QSize size = display->geometry().size();
-    return {size.width() * qt::twipsinpixel, size.height() * qt::twipsinpixel};
+    const QSize size = display().availableSize();
+    return {qt::basezoom().twips(size.width()), qt::basezoom().twips(size.height())};
 }
 
 Size QtHost::framesize()
@@ -117,8 +129,8 @@ Size QtHost::framesize()
         qt::learnframe(*windows_.front());
     }
     const QMargins margins = qt::framemargins();
-    return {(margins.left() + margins.right()) * qt::twipsinpixel,
-            (margins.top() + margins.bottom()) * qt::twipsinpixel};
+    return {qt::basezoom().twips(margins.left() + margins.right()),
+            qt::basezoom().twips(margins.top() + margins.bottom())};
 }
 
 LoadedPicture QtHost::loadpicture(const std::string& file)
@@ -133,11 +145,63 @@ void QtHost::startviewer(const std::string& file)
 
 bool QtHost::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != qApp || event->type() != QEvent::Quit) {
+    if (watched == qApp && event->type() == QEvent::Quit) {
+        quit();
+        return true;
+    }
+    return zoomby(*event);
+}
+
+// Ctrl with Plus, Minus and 0, and with the wheel, whatever has the focus; false for everything else.
+bool QtHost::zoomby(QEvent& event)
+{
+    int direction = 0;
+    if (event.type() == QEvent::KeyPress && static_cast<QKeyEvent&>(event).modifiers().testFlag(Qt::ControlModifier)) {
+        switch (static_cast<QKeyEvent&>(event).key()) {
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:
+            direction = 1;
+            break;
+        case Qt::Key_Minus:
+            direction = -1;
+            break;
+        case Qt::Key_0:
+            break;
+        default:
+            return false;
+        }
+    } else if (event.type() == QEvent::Wheel &&
+               static_cast<QWheelEvent&>(event).modifiers().testFlag(Qt::ControlModifier)) {
+        const int turned = static_cast<QWheelEvent&>(event).angleDelta().y();
+        if (turned == 0) {
+            return true;
+        }
+        direction = turned > 0 ? 1 : -1;
+    } else {
         return false;
     }
-    quit();
+    const QSize size = display().size();
+    if (direction == 0) {
+        zooms_.choose(size, std::nullopt);
+        usezoom(qt::startzoom(display().availableSize()));
+    } else {
+        const qt::Zoom chosen = qt::nextzoom(qt::basezoom(), direction);
+        zooms_.choose(size, chosen);
+        usezoom(chosen);
+    }
     return true;
+}
+
+void QtHost::usezoom(qt::Zoom zoom)
+{
+    if (zoom == qt::basezoom()) {
+        return;
+    }
+    qt::setbasezoom(zoom);
+    qt::dressfonts();
+    for (const auto& window : windows_) {
+        window->rezoom();
+    }
 }
 
 // The calls that opened the screens return one after the other, and the program ends as if a person had closed them.

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "toolkit/host.h"
+#include "toolkit/qt/displayzoom.h"
 
 #include <QObject>
 
 #include <memory>
 #include <vector>
+
+class QScreen;
 
 namespace brindor::toolkit {
 
@@ -16,7 +19,8 @@ class ScreenWindow;
 // The host of real windows. Needs a QApplication as long as it lives, and is in force as long as it lives.
 class QtHost : public QObject, public Host {
 public:
-    QtHost();
+    // `zoomfile` keeps the zooms that a person chooses. Without one the zoom is left as it is, and nothing is kept.
+    explicit QtHost(const std::string& zoomfile = {});
     ~QtHost() override;
 
     void create(Screen& screen) override;
@@ -34,17 +38,21 @@ public:
     bool quitting() override { return quitting_; }
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override; // the desktop's wish that the program ends
+    bool eventFilter(QObject* watched, QEvent* event) override; // the desktop's wish that the program ends; the zoom
 
 private:
     qt::ScreenWindow* windowof(const Screen& screen) const; // none for a screen without a window
     qt::ScreenWindow* top() const;                          // the topmost window that is seen, if any
     void activatetop();
     void quit();
+    bool zoomby(QEvent& event);
+    void usezoom(qt::Zoom zoom);
+    QScreen& display() const;
 
     Host* before_;
     std::vector<std::unique_ptr<qt::ScreenWindow>> windows_; // the last one is on top
     bool quitting_ = false;
+    qt::ChosenZooms zooms_;
 };
 
 } // namespace brindor::toolkit

@@ -14,6 +14,19 @@ QString shown(std::string_view bytes)
     return text;
 }
 
+QString unbroken(QString text)
+{
+    const auto holds = [&text](qsizetype at) { return text[at] == u'.' || text[at] == u')'; };
+    const auto isdigit = [&text](qsizetype at) { return at < text.size() && text[at].isDigit(); };
+    for (qsizetype at = 1; at < text.size(); ++at) {
+        const bool number = isdigit(at + 1) || (at + 1 < text.size() && text[at + 1] == u'-' && isdigit(at + 2));
+        if (text[at] == u' ' && holds(at - 1) && number) {
+            text[at] = QChar::Nbsp;
+        }
+    }
+    return text;
+}
+
 std::string bytesof(const QString& typed)
 {
     QString text = typed;

@@ -10,6 +10,9 @@ namespace brindor::toolkit::qt {
 // A text as a widget shows it: read as UTF-8 or Windows-1252, a line break of any form as one line feed.
 QString shown(std::string_view bytes);
 
+// A text to be wrapped: a number stays with the abbreviation or the bracket before it, "ca. 1373", "(reign) -480".
+QString unbroken(QString text);
+
 // A typed text as the records hold it: UTF-8, a line break as carriage return and line feed.
 std::string bytesof(const QString& typed);
 

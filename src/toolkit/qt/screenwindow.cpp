@@ -1,26 +1,40 @@
 #include "toolkit/qt/screenwindow.h"
 
+#include "toolkit/operations.h"
+#include "toolkit/qt/access.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/canvas.h"
 #include "toolkit/qt/controlview.h"
 #include "toolkit/qt/qttext.h"
-#include "toolkit/qt/twips.h"
 #include "toolkit/user.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QScreen>
+#include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
-#include <QTimer>
-
-#include <utility>
 
 namespace brindor::toolkit::qt {
 
 namespace {
+
+// In pixels at zoom 1.
+constexpr double leasttextwidth = 32; // a text is never squeezed below this
+constexpr double endmargin = 8;       // between the outermost control and the edge that is scrolled to
+
+bool isbar(const Control& control)
+{
+    return control.kind == Kind::button && static_cast<const Button&>(control).bar;
+}
+
+// A label without a surface or an edge of its own.
+bool isplainlabel(const Control& control)
+{
+    return control.kind == Kind::label && control.opaque && !static_cast<const Label&>(control).outlined &&
+           control.back == (control.container == nullptr ? control.screen->back : control.container->back);
+}
 
 QEvent::Type layoutevent()
 {
@@ -28,25 +42,10 @@ QEvent::Type layoutevent()
     return static_cast<QEvent::Type>(type);
 }
 
-std::int16_t stateof(Qt::WindowStates states)
-{
-    if (states.testFlag(Qt::WindowMinimized)) {
-        return minimised;
-    }
-    return (states & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0 ? maximised : normal;
-}
-
-// A window that was minimised when its state was remembered comes back as a normal one.
-std::int16_t shownstate(std::int16_t state)
-{
-    return state == maximised ? maximised : normal;
-}
-
 } // namespace
 
 ScreenWindow::ScreenWindow(Screen& screen, QWidget* below)
-    : QWidget(below, Qt::Window), screen_(screen), area_(new QScrollArea(this)), canvas_(new Canvas(screen)),
-      displaycorner_(QWidget::screen()->geometry().topLeft())
+    : QWidget(below, Qt::Window), screen_(screen), area_(new QScrollArea(this)), canvas_(new Canvas(screen))
 {
     setObjectName(QString::fromStdString(screen.name));
     setWindowModality(Qt::ApplicationModal);
@@ -57,21 +56,32 @@ ScreenWindow::ScreenWindow(Screen& screen, QWidget* below)
         area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
-    for (Control* control : screen.controls) {
+    settling_.setSingleShot(true);
+    connect(&settling_, &QTimer::timeout, this, [this] { reportsize(); });
+    makecontrols();
+    refreshscreen();
+}
+
+void ScreenWindow::makecontrols()
+{
+    for (Control* control : screen_.controls) {
         QWidget* parent = control->container == nullptr ? canvas_ : &views_.at(control->container)->widget();
         ControlView* view = makeview(*control, parent);
         views_.emplace(control, view);
         view->refresh();
     }
-    // A bar lies on whatever it is dropped on.
-    for (Control* control : screen.controls) {
-        if (control->kind == Kind::button && static_cast<Button*>(control)->bar) {
+    for (Control* control : screen_.controls) {
+        // A bar lies on whatever it is dropped on.
+        if (isbar(*control)) {
             views_.at(control)->widget().raise();
         }
+        // A label and the field that it names know each other.
+        if (control->kind == Kind::label && static_cast<Label*>(control)->names != nullptr) {
+            static_cast<QLabel&>(views_.at(control)->widget())
+                .setBuddy(&views_.at(static_cast<Label*>(control)->names)->widget());
+        }
     }
-    refreshscreen();
-    refreshplace();
-    resize(size_.give(screen.width, screen.height));
+    telldrops(*this, screen_);
 }
 
 void ScreenWindow::present()
@@ -85,6 +95,7 @@ void ScreenWindow::present()
     raise();
     activateWindow();
     presented_ = true;
+    adaptzoom();
     reportsize();
 }
 
@@ -112,36 +123,18 @@ void ScreenWindow::refreshscreen()
     if (area_->palette().color(QPalette::Window) != palette.color(QPalette::Window)) {
         area_->setPalette(palette);
     }
-    if (state_ != shownstate(screen_.windowstate)) {
-        state_ = shownstate(screen_.windowstate);
-        if (presented_) {
-            setWindowState(state_ == maximised ? Qt::WindowMaximized : Qt::WindowNoState);
-        }
-    }
-    const bool movable = !presented_ || windowState() == Qt::WindowNoState; // else it would leave its state
-    if (movable && (left_ != screen_.left || top_ != screen_.top)) {
-        refreshplace();
-    }
-    if (movable && (width_ != screen_.width || height_ != screen_.height)) {
-        width_ = screen_.width;
-        height_ = screen_.height;
-        resize(size_.give(width_, height_));
-    }
+    refreshgeometry();
     canvas_->update();
     requestlayout();
-}
-
-void ScreenWindow::refreshplace()
-{
-    left_ = screen_.left;
-    top_ = screen_.top;
-    move(displaycorner_ + QPoint(pixels(left_), pixels(top_)));
 }
 
 void ScreenWindow::refresh(Control& control)
 {
     if (const auto view = views_.find(&control); view != views_.end()) {
         view->second->refresh();
+        if (isbar(control)) {
+            telldrops(*this, screen_);
+        }
         requestlayout();
     }
 }
@@ -159,17 +152,23 @@ void ScreenWindow::focus(Control& control)
     }
 }
 
-// The option buttons are left out: a Space that nobody meant would answer with one.
+// Not on an option that answers by itself to a Space that nobody meant; one that listens to the mouse does not.
 void ScreenWindow::setfirstfocus()
 {
     for (const Control* control : screen_.controls) {
         QWidget& widget = views_.at(control)->widget();
-        const bool takesfocus = (widget.focusPolicy() & Qt::TabFocus) != 0 && control->kind != Kind::optionbutton;
+        const bool answers = control->kind == Kind::optionbutton && !static_cast<const OptionButton&>(*control).press;
+        const bool takesfocus = (widget.focusPolicy() & Qt::TabFocus) != 0 && !answers;
         if (takesfocus && widget.isVisibleTo(this) && widget.isEnabled()) {
             widget.setFocus(Qt::OtherFocusReason);
             return;
         }
     }
+}
+
+QWidget& ScreenWindow::widgetof(const Control& control) const
+{
+    return views_.at(&control)->widget();
 }
 
 ControlView* ScreenWindow::viewat(QPoint global) const
@@ -230,50 +229,13 @@ void ScreenWindow::turnpage(int direction)
     bar->setValue(bar->value() + direction * bar->pageStep());
 }
 
-void ScreenWindow::resizeEvent(QResizeEvent* /*event*/)
+void ScreenWindow::scrolltowards(QPoint global)
 {
-    area_->setGeometry(rect());
-    reportsize();
-    layoutcontrols();
-}
-
-void ScreenWindow::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::WindowStateChange) {
-        reportsize();
-    }
-    QWidget::changeEvent(event);
-}
-
-// The window system tells a size again that has not changed, and our own sizes as well: neither is a person's doing.
-// Size and state come one after the other and in no fixed order, so a normal window as large as the display is looked
-// at again a little later: it may be on its way to the maximised state, or from it.
-void ScreenWindow::reportsize()
-{
-    if (!presented_ || screen_.closed) {
-        return;
-    }
-    const std::int16_t state = stateof(windowState());
-    if (state == normal && !std::exchange(waited_, false) && fillsdisplay()) {
-        waited_ = true;
-        QTimer::singleShot(100, this, [this] { reportsize(); });
-        return;
-    }
-    const Size now = state == minimised ? Size{width_, height_} : size_.outer(size());
-    if (state == state_ && now.width == width_ && now.height == height_) {
-        return;
-    }
-    state_ = state;
-    width_ = now.width;
-    height_ = now.height;
-    userresize(screen_, width_, height_, state_);
-}
-
-bool ScreenWindow::fillsdisplay() const
-{
-    constexpr int titlebar = 64; // the most that one takes
-    const QSize display = QWidget::screen()->availableSize();
-    return width() >= display.width() && height() + titlebar >= display.height();
+    const int y = area_->viewport()->mapFromGlobal(global).y();
+    const int edge = zoom_.length(24);
+    const int step = zoom_.length(12);
+    QScrollBar* bar = area_->verticalScrollBar();
+    bar->setValue(bar->value() + (y < edge ? -step : y >= area_->viewport()->height() - edge ? step : 0));
 }
 
 void ScreenWindow::requestlayout()
@@ -294,14 +256,18 @@ std::vector<Box> ScreenWindow::boxesin(const Frame* container) const
         ControlView* view = views_.at(control);
         Box& box = boxes.emplace_back();
         box.control = control;
-        box.record = pixels(control->place);
+        box.record = zoom_.pixels(control->place);
         box.visible = control->visible;
         if (control->kind == Kind::frame) {
             const auto& frame = static_cast<const Frame&>(*control);
             box.container = true;
             box.counts = frame.border;
             box.children = boxesin(&frame);
+        } else if (isbar(*control)) {
+            box.fillsrow = rowof(static_cast<const Button&>(*control)) != nullptr;
+            box.heightfor = [view](int width) { return view->heightfor(width); };
         } else if (view->wraps()) {
+            box.narrows = isplainlabel(*control) && screen_.resize != nullptr;
             box.heightfor = [view](int width) { return view->heightfor(width); };
         }
     }
@@ -313,9 +279,12 @@ void ScreenWindow::layoutcontrols()
     layoutrequested_ = false;
     const QSize seen = area_->maximumViewportSize();
     std::vector<Box> boxes = boxesin(nullptr);
-    arrange(boxes, seen);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_->verticalScrollBar());
-    const CanvasPlan plan = screen_.scrolls ? plancanvas(boxes, seen, bar, !screen_.resize) : CanvasPlan{seen, {}};
+    arrange(boxes, seen, {zoom_.length(leasttextwidth), bar + zoom_.length(endmargin)});
+    // What places itself stands in the middle where the whole window is more than its zoom could fill.
+    const bool centred = !screen_.resize || (state_ == maximised && screen_.backdrop == nullptr);
+    const CanvasPlan plan =
+        screen_.scrolls ? plancanvas(boxes, seen, bar, zoom_.length(endmargin), centred) : CanvasPlan{seen, {}};
     canvas_->resize(plan.canvas);
     put(boxes, plan.origin);
 }

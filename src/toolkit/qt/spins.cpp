@@ -29,14 +29,7 @@ protected:
         QPainter painter(this);
         drawsurface(painter, rect(), qtcolour(spin_.back),
                     {.hovered = isEnabled() && underMouse(), .pressed = isDown()});
-        const QPointF middle = QRectF(rect()).center();
-        const double half = std::min(width(), height()) / 4.0 + 1;
-        const double tip = up_ ? -half / 2 : half / 2;
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(lettercolour(spin_, isEnabled()));
-        painter.drawPolygon(
-            QPolygonF({middle + QPointF(-half, -tip), middle + QPointF(half, -tip), middle + QPointF(0, tip)}));
+        drawarrow(painter, rect(), std::min(width(), height()) / 2.0 + 2, up_, lettercolour(spin_, isEnabled()));
     }
 
 private:
@@ -71,9 +64,12 @@ public:
 protected:
     void resizeEvent(QResizeEvent* /*event*/) override
     {
-        const int upper = height() / 2;
-        halves_[0]->setGeometry(0, 0, width(), upper);
-        halves_[1]->setGeometry(0, upper, width(), height() - upper);
+        // Side by side where there is room: a half is to be hit easily.
+        const bool beside = width() > height();
+        const QSize half = beside ? QSize(width() / 2, height()) : QSize(width(), height() / 2);
+        halves_[0]->setGeometry({{0, 0}, half});
+        halves_[1]->setGeometry(
+            {beside ? QPoint(width() - half.width(), 0) : QPoint(0, height() - half.height()), half});
     }
 
     void keyPressEvent(QKeyEvent* event) override

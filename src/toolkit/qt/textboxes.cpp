@@ -13,13 +13,12 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
-constexpr int linemargin = 3; // pixels, beside those of the style
+constexpr double linemargin = 3; // pixels at zoom 1, beside those of the style
 
 class LineBox : public QLineEdit {
 public:
     LineBox(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box)
     {
-        setTextMargins(linemargin, 0, linemargin, 0);
         setMaxLength(std::numeric_limits<int>::max());
         connect(this, &QLineEdit::textEdited, this, [this](const QString& typed) {
             if (!usertype(box_, bytesof(typed))) {
@@ -30,9 +29,21 @@ public:
 
     void refresh()
     {
+        const int margin = zoomof(*this).length(linemargin);
+        setTextMargins(margin, 0, margin, 0);
         setReadOnly(box_.readonly);
         if (const QString now = shown(box_.text); text() != now) {
             setText(now);
+        }
+    }
+
+protected:
+    // The keys of a spin work in its field.
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const bool steps = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+        if (!steps || !userstep(box_, event->key() == Qt::Key_Up ? 1 : -1)) {
+            QLineEdit::keyPressEvent(event);
         }
     }
 
@@ -46,7 +57,6 @@ public:
     ManyLines(TextBox& box, QWidget* parent) : QPlainTextEdit(parent), box_(box)
     {
         setTabChangesFocus(true);
-        document()->setDocumentMargin(textmargin - 1); // and the frame's line
         connect(this, &QPlainTextEdit::textChanged, this, [this] {
             if (!usertype(box_, bytesof(toPlainText()))) {
                 refresh();
@@ -57,9 +67,11 @@ public:
     void refresh()
     {
         const QSignalBlocker blocked(this);
+        document()->setDocumentMargin(zoomof(*this).length(textmargin - 1)); // and the frame's line
         setReadOnly(box_.readonly);
+        // Blanks that do not break come back as plain ones.
         if (const QString now = shown(box_.text); toPlainText() != now) {
-            setPlainText(now);
+            setPlainText(box_.readonly ? unbroken(now) : now);
         }
     }
 

@@ -1,5 +1,7 @@
 #include "toolkit/qt/wrappedtext.h"
 
+#include "toolkit/qt/qttext.h"
+
 #include <QFontMetrics>
 
 #include <algorithm>
@@ -19,7 +21,7 @@ Qt::Alignment qtalign(Align align)
 
 void WrappedText::set(const QString& text, const QFont& font, Align align, char accesskey)
 {
-    QString lines = text;
+    QString lines = unbroken(text);
     lines.replace(u'\n', QChar(QChar::LineSeparator));
     QTextOption option(qtalign(align));
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

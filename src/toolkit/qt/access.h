@@ -1,0 +1,25 @@
+#pragma once
+
+#include "toolkit/controls.h"
+
+namespace brindor::toolkit::qt {
+
+class ScreenWindow;
+
+// A widget on which an assistive tool's "press" does something else than a click.
+class Pressable {
+public:
+    virtual void pressfor() = 0;
+
+protected:
+    ~Pressable() = default;
+};
+
+// From now on assistive tools are told what Qt does not tell by itself: that windows are windows and dialogs, drop-down
+// lists their own names, and what a press does.
+void installaccess();
+
+// Tells of every bar whether it is picked up and on which row it lies, and of every row which bar it holds.
+void telldrops(ScreenWindow& window, const Screen& screen);
+
+} // namespace brindor::toolkit::qt

@@ -1,0 +1,179 @@
+#include "gallery.h"
+
+#include "base/random.h"
+#include "editors/bdqedit.h"
+#include "editors/eentry.h"
+#include "editors/imgdisp.h"
+#include "editors/pentry.h"
+#include "frame/mainscreen.h"
+#include "frame/services/placement.h"
+#include "questions/catalogue.h"
+#include "quiz/mchoice.h"
+#include "quiz/qmatch.h"
+#include "quiz/qsort.h"
+#include "setup/curstats.h"
+#include "setup/setup.h"
+#include "timeline/timeline.h"
+#include "toolkit/operations.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QScrollArea>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace brindor::tests {
+
+namespace {
+
+class Walker : public QObject {
+public:
+    explicit Walker(std::vector<Step> steps) : steps_(std::move(steps)) { arm(); }
+
+private:
+    void arm()
+    {
+        QTimer::singleShot(10, this, [this] { next(); });
+    }
+
+    void next()
+    {
+        arm();
+        QWidget* front = QApplication::activeModalWidget();
+        const bool shown = front != nullptr && front->isVisible() && front->windowHandle()->isExposed();
+        if (!shown || front == acting_) {
+            return;
+        }
+        if (done_ == steps_.size()) {
+            front->close();
+            return;
+        }
+        const Step& step = steps_[done_];
+        if (front->objectName().toStdString() != step.window) {
+            constexpr int patience = 500;
+            if (++waited_ > patience) {
+                ADD_FAILURE() << step.window << " did not come";
+                done_ = steps_.size();
+            }
+            return;
+        }
+        ++done_;
+        QWidget* before = std::exchange(acting_, front);
+        step.act(*front);
+        acting_ = before;
+    }
+
+    std::vector<Step> steps_;
+    std::size_t done_ = 0;
+    int waited_ = 0;
+    QWidget* acting_ = nullptr;
+};
+
+QPoint middleof(QWidget& window, const std::string& control)
+{
+    auto* widget = window.findChild<QWidget*>(QString::fromStdString(control));
+    if (widget == nullptr) {
+        ADD_FAILURE() << "no " << control;
+        return {};
+    }
+    if (auto* area = window.findChild<QScrollArea*>()) {
+        area->ensureWidgetVisible(widget);
+    }
+    return widget->mapTo(&window, widget->rect().center());
+}
+
+std::function<void()> question(std::int16_t type, void (*play)())
+{
+    return [type, play] {
+        seedrandom(7);
+        qtype = type;
+        play();
+    };
+}
+
+std::function<void(QWidget&)> clicks(const std::string& control)
+{
+    return [control](QWidget& window) { click(window, control); };
+}
+
+} // namespace
+
+void walk(const std::function<void()>& open, std::vector<Step> steps)
+{
+    const Walker walker(std::move(steps));
+    open();
+}
+
+void click(QWidget& window, const std::string& control)
+{
+    drag(window, control, control);
+}
+
+void drag(QWidget& window, const std::string& from, const std::string& to, bool letgo)
+{
+    const QPointer<QWindow> handle = window.windowHandle();
+    const QPoint start = middleof(window, from);
+    const QPoint end = middleof(window, to);
+    QTest::mousePress(handle, Qt::LeftButton, {}, start);
+    for (int step = 1; handle && step <= 4 && start != end; ++step) {
+        QTest::mouseMove(handle, start + (end - start) * step / 4);
+    }
+    if (handle && letgo) {
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, end);
+    }
+}
+
+std::vector<Exhibit> gallery()
+{
+    const auto main = [] {
+        MainScreen screen(std::filesystem::current_path().string());
+        toolkit::showmodal(screen);
+    };
+    const auto events = [] {
+        curevent = static_cast<std::int16_t>(nevents / 3);
+        showevents();
+    };
+    const auto drops = [](QWidget& window) {
+        drag(window, "Btn1(4)", "Label2(4)");
+        drag(window, "Btn1(0)", "Label2(1)");
+    };
+    const auto dragging = [](QWidget& window) {
+        drag(window, "Btn1(3)", "Label2(3)");
+        drag(window, "Btn1(1)", "Label2(2)", false);
+    };
+    return {
+        {"main", main, {{"main", clicks("Command3")}}, "main"},
+        {"mchoice", question(1, playmchoice), {}, "mchoice"},
+        {"mchoice events", question(8, playmchoice), {}, "mchoice"},
+        {"mchoice help", question(1, playmchoice), {{"mchoice", clicks("cmdhelp")}}, "message"},
+        {"showscor of mchoice", question(2, playmchoice), {{"mchoice", clicks("choice(4)")}}, "showscor"},
+        {"qsort", question(13, playqsort), {}, "qsort"},
+        {"showscor of qsort", question(13, playqsort), {{"qsort", clicks("Command1")}}, "showscor"},
+        {"qmatch", question(3, playqmatch), {}, "qmatch"},
+        {"qmatch events", question(9, playqmatch), {{"qmatch", drops}}, "qmatch"},
+        {"qmatch dragging", question(4, playqmatch), {{"qmatch", dragging}}, "qmatch"},
+        {"setup", [] { showsetup([] {}); }, {}, "setup"},
+        {"bdqedit", [] { showchooser([] {}); }, {}, "bdqedit"},
+        {"curStats", [] { showstatistics(); }, {}, "curStats"},
+        {"PEntry", [] { showpeople(); }, {}, "PEntry"},
+        {"eEntry", events, {}, "eEntry"},
+        {"ImgDisp", events, {{"eEntry", clicks("Eimage")}}, "ImgDisp"},
+        {"closing", [] { toolkit::announce("You scored 35 out of 50 (70%)"); }, {}, "message"},
+        {"question", [] { toolkit::askyesno("Store changed data?", "Data changed"); }, {}, "message"},
+    };
+}
+
+void look(const Exhibit& exhibit, const std::function<void(QWidget& window)>& with)
+{
+    placements = firstplacements;
+    std::vector<Step> steps = exhibit.way;
+    steps.push_back({exhibit.window, with});
+    walk(exhibit.open, std::move(steps));
+}
+
+} // namespace brindor::tests
