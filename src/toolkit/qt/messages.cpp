@@ -4,6 +4,8 @@
 #include "toolkit/qt/qttext.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QRegularExpression>
