@@ -73,11 +73,11 @@ int summarize(const std::vector<std::string>& folders)
     return tell(findings, std::cerr);
 }
 
-int judge(const std::vector<std::string>& targets, std::uint64_t seed)
+int judge(const std::vector<std::string>& targets, std::int64_t questions, std::uint64_t seed)
 {
     Findings findings;
-    std::cout << fairnesstable(targets, seed, findings) << '\n'
-              << fairnessdraws << " questions of each kind, seed " << seed << ".\n";
+    std::cout << fairnesstable(targets, questions, seed, findings) << '\n'
+              << questions << " questions of each kind, seed " << seed << ".\n";
     return tell(findings, std::cerr);
 }
 
@@ -93,6 +93,7 @@ int main(int argc, char** argv)
     std::vector<std::string> targets;
     Places places = placesbeside(programfolder());
     std::uint64_t seed = 1;
+    std::int64_t questions = 20000;
     bool summary = false;
     bool overwrite = false;
     bool quiet = false;
@@ -147,6 +148,7 @@ int main(int argc, char** argv)
     CLI::App* judging = app.add_subcommand("fairness", "Tell how many questions have two right answers");
     judging->add_option("TARGET", targets, "Folders, or timeline files ending in .bd3")->required();
     judging->add_option("--seed", seed, "Another number draws other questions");
+    judging->add_option("--questions", questions, "How many of each kind")->check(CLI::PositiveNumber);
     judging->footer(fairnessrules());
 
     const std::vector<std::string> words(argv + 1, argv + argc);
@@ -176,5 +178,5 @@ int main(int argc, char** argv)
     if (exporting->parsed()) {
         return tell(exporttimeline(file, folder, overwrite), "", false);
     }
-    return judge(targets, seed);
+    return judge(targets, questions, seed);
 }

@@ -119,8 +119,8 @@ Report maketimeline(const std::string& folder, const std::string& file, bool ove
     const std::string prefix = mapprefix(file);
     const Forms forms = examined(folder, prefix, report.findings);
     Writing writing(overwrite, report.findings);
-    takepictures(forms.events, folder, file, writing, report.findings);
     if (!haserrors(report.findings)) {
+        takepictures(forms.events, folder, file, writing, report.findings);
         writing.add(file, timelinetext());
     }
     if (writing.commit()) {

@@ -54,7 +54,7 @@ void checksea(const EventForm& form, const Position& position, const Coastlines&
 void checkplaces(const Forms& forms, Findings& findings)
 {
     Notes notes(forms.eventsource, findings);
-    const Result<Coastlines> coastlines = readcoastlines(builtin("land.txt"));
+    static const Result<Coastlines> coastlines = readcoastlines(builtin("land.txt"));
     if (!coastlines) {
         notes.add(Severity::error, 0, coastlines.reason);
         return;

@@ -44,8 +44,7 @@ std::string put(std::string_view text, const char16_t* rules)
 }
 
 // Signs for letters that Latin has not are dropped, and so are accents.
-constexpr const char16_t* folding =
-    u":: [ʿʾʼʻʹ] Remove; :: NFD; :: [:M:] Remove; :: NFC; :: Latin-ASCII; :: Lower; \\u00A0 > ' ';";
+constexpr const char16_t* folding = u":: NFD; :: [[:M:] ʿ ʾ ʼ ʻ ʹ] Remove; :: NFC; :: Latin-ASCII; :: Lower;";
 constexpr const char16_t* tolatin = u":: Any-Latin;";
 
 // What is counted and has no plural with an s, or a short one.
@@ -56,6 +55,11 @@ constexpr std::array<std::string_view, 17> measures = {"men",  "women", "people"
 bool isdigit(char c)
 {
     return c >= '0' && c <= '9';
+}
+
+bool isalnum(char c)
+{
+    return isdigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
 bool isletter(char c)
@@ -172,7 +176,8 @@ std::string yearin(std::string_view text)
             ++at;
         }
         const std::string_view number = text.substr(start, at - start);
-        const bool whole = number.find_first_of(",.") == std::string_view::npos;
+        const bool whole =
+            number.find_first_of(",.") == std::string_view::npos && (start == 0 || !isalnum(text[start - 1]));
         if (whole && (number.size() == 3 || number.size() == 4) && !countsthings(text.substr(at))) {
             return std::string(number);
         }
