@@ -47,7 +47,8 @@ int tell(const Report& report, const std::string& folder, bool quiet)
     Findings rest = report.findings;
     std::erase_if(rest, [](const Finding& finding) { return finding.severity == Severity::error; });
     if (!rest.empty() && !quiet && !folder.empty()) {
-        std::cout << checkadvice(folder, counted(rest, Severity::warning, "warning"), counted(rest, Severity::note, "note"))
+        std::cout << checkadvice(folder, counted(rest, Severity::warning, "warning"),
+                                 counted(rest, Severity::note, "note"))
                   << '\n';
     }
     return errors.empty() ? 0 : 1;
@@ -60,8 +61,8 @@ int check(const std::vector<std::string>& targets)
         const Findings findings = istimelinefile(target) ? checkfile(target) : checkfolder(target);
         status = std::max(status, tell(findings, std::cout));
         std::cerr << target << ": " << counted(findings, Severity::error, "error") << ", "
-                  << counted(findings, Severity::warning, "warning") << ", " << counted(findings, Severity::note, "note")
-                  << '\n';
+                  << counted(findings, Severity::warning, "warning") << ", "
+                  << counted(findings, Severity::note, "note") << '\n';
     }
     return status;
 }
@@ -104,7 +105,8 @@ int main(int argc, char** argv)
     const auto takesperiod = [&](CLI::App* command) {
         command->add_option("PERIOD", period, "Ancient, Classic, Medieval or Modern: the one whose place it takes")
             ->check([](const std::string& word) {
-                return periodnamed(word).empty() ? "the periods are Ancient, Classic, Medieval and Modern" : std::string();
+                return periodnamed(word).empty() ? "the periods are Ancient, Classic, Medieval and Modern"
+                                                 : std::string();
             });
         command->add_option("--game", places.game, "The folder of the game, where it is not found by itself");
     };
@@ -112,7 +114,8 @@ int main(int argc, char** argv)
         command->add_flag("--overwrite", overwrite, "Replace other files of the same names");
     };
 
-    CLI::App* beginning = app.add_subcommand("new", "Begin a timeline: a folder with both spreadsheets and three rows each");
+    CLI::App* beginning =
+        app.add_subcommand("new", "Begin a timeline: a folder with both spreadsheets and three rows each");
     beginning->add_option("FOLDER", folder, "The folder; made if missing")->required();
     beginning->add_flag("--semicolons", semicolons, "For a spreadsheet that separates columns by semicolons");
 
@@ -164,7 +167,11 @@ int main(int argc, char** argv)
         return summary ? summarize(targets) : check(targets);
     }
     if (playing->parsed()) {
-        return tell(playtimeline(folder, period, places), folder, false);
+        const auto ready = [&folder](const Report& report) {
+            tell(report, folder, false);
+            std::cout << "The game starts." << std::endl;
+        };
+        return tell(playtimeline(folder, period, places, ready), folder, false);
     }
     if (making->parsed()) {
         return tell(maketimeline(folder, file, overwrite), folder, quiet);

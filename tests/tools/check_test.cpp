@@ -64,29 +64,31 @@ TEST_F(Check, WarnsAboutPeople)
          "column 8 (faction): the faction \"china\" stands once; did you mean \"China\"? it stands 2 times"},
     };
     for (const Case& c : cases) {
-        const std::string expected = c.text.empty() ? ""
-                                     : c.text == "?"
-                                         ? "in/people.csv:10: warning: column 8 (faction): the faction \"China\" stands whole "
-                                           "in \"Eastern China\", line 12; a record may fit both names, so merge or rename "
-                                           "them\n"
-                                         : "in/people.csv:12: warning: " + c.text + '\n';
+        const std::string expected =
+            c.text.empty()  ? ""
+            : c.text == "?" ? "in/people.csv:10: warning: column 8 (faction): the faction \"China\" stands whole "
+                              "in \"Eastern China\", line 12; a record may fit both names, so merge or rename "
+                              "them\n"
+                            : "in/people.csv:12: warning: " + c.text + '\n';
         EXPECT_EQ(withrows(c.row + '\n', ""), expected) << c.row;
     }
-    EXPECT_EQ(withrows("A,1,,,,D1,,F1,Poet\nB,2,,,,D2,,F2,Poet\nC,3,,,,D3,,F3,Poet\n", ""),
-              "in/people.csv:1: warning: 3 factions are used only once, F1, F2, F3; such a name is soon known by heart\n");
+    EXPECT_EQ(
+        withrows("A,1,,,,D1,,F1,Poet\nB,2,,,,D2,,F2,Poet\nC,3,,,,D3,,F3,Poet\n", ""),
+        "in/people.csv:1: warning: 3 factions are used only once, F1, F2, F3; such a name is soon known by heart\n");
 }
 
 TEST_F(Check, WarnsAboutEvents)
 {
-    const std::string noplace = "the event has no picture; give place, latitude and longitude for a map, or a picture of "
-                                "your own";
+    const std::string noplace =
+        "the event has no picture; give place, latitude and longitude for a map, or a picture of "
+        "your own";
     const std::vector<Case> cases = {
         {"Fire of 64,64,,,,D,,War,Rome,,Rome,41.9,12.5,", ""},
         {"Fire of 464,464,,,,D,,War,Rome,,Rome,41.9,12.5,",
          "warning: column 1 (name): 464 looks like a year, which gives the date away"},
-        {"Fire,260,ca.,,,D,,War,Rome,,Rome,41.9,12.5,",
-         "note: column 2 (date1): the date is that of Battle of Edessa, line 2, too; fair only where each of them is well "
-         "known for it"},
+        {"Fire,260,ca.,,,D,,War,Rome,,Rome,41.9,12.5,", "note: column 2 (date1): the date is that of Battle of Edessa, "
+                                                        "line 2, too; fair only where each of them is well "
+                                                        "known for it"},
         {std::string(61, 'n') + ",1,,,,D,,War,Rome,,Rome,41.9,12.5,",
          "warning: column 1 (name): 61 characters are too long for the screens; at most 60 fit"},
         {"Fire,1,,,,D,,Fire,Rome,,Rome,41.9,12.5,", "warning: column 8 (group): the group \"Fire\" is used only here"},
@@ -96,14 +98,15 @@ TEST_F(Check, WarnsAboutEvents)
         {"Fire,1,,,,D,,War,Rome,,,,,wide.bmp", "warning: column 14 (picture): wide.bmp is 80 x 30 pixels and will be "
                                                "stretched to 4:3; cut it to that shape, as 640 x 480"},
         {"Fire,1,,,,D,,War,Rome,,Rome,41.9,12.5,maps/old.bmp",
-         "warning: column 14 (picture): maps/old.bmp is a map that was drawn before, and stays; empty this column, and the "
+         "warning: column 14 (picture): maps/old.bmp is a map that was drawn before, and stays; empty this column, and "
+         "the "
          "map of Rome is drawn"},
-        {"Fire,1,,,,D,,War,Rome,,,,,maps/gone.png",
-         "warning: column 14 (picture): maps/gone.png cannot be opened: No such file or directory; give place, latitude and "
-         "longitude and no picture, and it is drawn anew"},
-        {"Fire,1,,,,D,,War,Rome,,Rome,12.5,-41.9,",
-         "warning: column 12 (latitude): Rome lies in the sea, 1377 km from land; right for a small island or a fight at "
-         "sea, else look at both degrees"},
+        {"Fire,1,,,,D,,War,Rome,,,,,maps/gone.png", "warning: column 14 (picture): maps/gone.png cannot be opened: No "
+                                                    "such file or directory; give place, latitude and "
+                                                    "longitude and no picture, and it is drawn anew"},
+        {"Fire,1,,,,D,,War,Rome,,Rome,12.5,-41.9,", "warning: column 12 (latitude): Rome lies in the sea, 1377 km from "
+                                                    "land; right for a small island or a fight at "
+                                                    "sea, else look at both degrees"},
         {"Fire,1,,,,D,,War,Rome,,Coral Sea,-15,155,", ""},
         {"Fire,999,,,,D,,War,Rome,,CARTHAGE,37.6,-1,",
          "warning: column 11 (place): CARTHAGE lies 1005 km from where it stands at line 11"},
@@ -120,9 +123,10 @@ TEST_F(Check, WarnsAboutEvents)
                            38);
     const std::string frame("\xFF\xC0\0\x0B\x08\0\x28\0\x1E\x01\x01\x11\0\xFF\xD9", 15);
     writefile("in/turned.jpg", mark + frame);
-    EXPECT_EQ(withrows("", "Fire,1,,,,D,,War,Rome,,,,,turned.jpg\n"),
-              "in/events.csv:12: note: column 14 (picture): turned.jpg carries a rotation mark, which is respected when it "
-              "is shown\n");
+    EXPECT_EQ(
+        withrows("", "Fire,1,,,,D,,War,Rome,,,,,turned.jpg\n"),
+        "in/events.csv:12: note: column 14 (picture): turned.jpg carries a rotation mark, which is respected when it "
+        "is shown\n");
 }
 
 TEST_F(Check, WarnsAboutRangesAndReigns)
@@ -132,23 +136,27 @@ TEST_F(Check, WarnsAboutRangesAndReigns)
         years += "Fire " + std::to_string(year) + ',' + std::to_string(year) + ",,,,D,,War,Rome,,Rome,41.9,12.5,\n";
     }
     EXPECT_EQ(withrows("", years + "Long fire,1,,20,,D,,War,Rome,,Rome,41.9,12.5,\n"), "");
-    EXPECT_EQ(withrows("", years + "Long fire,1,,21,,D,,War,Rome,,Rome,41.9,12.5,\n"),
-              "in/events.csv:33: warning: column 4 (date2): 1 to 21 covers 21 other events; give the year for which it is "
-              "known\n");
+    EXPECT_EQ(
+        withrows("", years + "Long fire,1,,21,,D,,War,Rome,,Rome,41.9,12.5,\n"),
+        "in/events.csv:33: warning: column 4 (date2): 1 to 21 covers 21 other events; give the year for which it is "
+        "known\n");
     const auto people = [](int lives, int reigns) {
         std::string rows;
         for (int i = 0; i < lives + reigns; ++i) {
             rows += "P" + std::to_string(i) + ',' + std::to_string(i) + (i < lives ? ",," : ",reign,") + ",,T" +
-                    std::string(static_cast<std::size_t>(i) / 26 + 1, static_cast<char>('a' + i % 26)) + ",,China,Poet\n";
+                    std::string(static_cast<std::size_t>(i) / 26 + 1, static_cast<char>('a' + i % 26)) +
+                    ",,China,Poet\n";
         }
         return rows;
     };
     EXPECT_EQ(withrows(people(100, 15), ""), ""); // 15 of 125 are 12 of 100
-    EXPECT_EQ(withrows(people(90, 14), ""),
-              "in/people.csv:1: warning: 14 of 114 people have a reign for a date, so \"(reign)\" gives answers away; either "
-              "none should, or at least 15\n");
-    const std::string many = "in/people.csv:1: warning: 16 of 126 people have a reign for a date; at most 12 of 100 should, "
-                             "since sorting takes it for a birth: give birth and death where they are known\n";
+    EXPECT_EQ(
+        withrows(people(90, 14), ""),
+        "in/people.csv:1: warning: 14 of 114 people have a reign for a date, so \"(reign)\" gives answers away; either "
+        "none should, or at least 15\n");
+    const std::string many =
+        "in/people.csv:1: warning: 16 of 126 people have a reign for a date; at most 12 of 100 should, "
+        "since sorting takes it for a birth: give birth and death where they are known\n";
     EXPECT_EQ(withrows(people(100, 16), ""), many);
 }
 
@@ -178,11 +186,10 @@ TEST_F(Check, TellsWhereAFileIsWrong)
 {
     // Numbers on lines of their own move the records down.
     const std::string item = "\n\n1\n0\n1, 0\n";
-    writefile(
-        "X.bd3",
-        "2\n1\n\n" + item +
-            "D\n\n\n1, 2\n\n0, 0\n\nTwo\n5, 3\n4, 0\nE\n\n\n0, -1\n\n0, 0\n\n\nWar\n"
-            "2, 0\n2, 0\nF\n\n\n1, 1, 1\n../x.png\n0, 0\n\n1\n\nRome\n0\n\n1\n\nPoet\n0\n\n1\n\nWar\n0\n\n1\n\nGaul\n0\n");
+    writefile("X.bd3", "2\n1\n\n" + item +
+                           "D\n\n\n1, 2\n\n0, 0\n\nTwo\n5, 3\n4, 0\nE\n\n\n0, -1\n\n0, 0\n\n\nWar\n"
+                           "2, 0\n2, 0\nF\n\n\n1, 1, 1\n../x.png\n0, "
+                           "0\n\n1\n\nRome\n0\n\n1\n\nPoet\n0\n\n1\n\nWar\n0\n\n1\n\nGaul\n0\n");
     std::string records;
     for (const Finding& finding : checkfile("X.bd3")) {
         records += finding.severity == Severity::error && finding.line > 2 ? findingline(finding) + '\n' : "";

@@ -21,7 +21,8 @@ TEST_F(CommandLine, ASlipIsAnsweredWithTheRightLine)
         {{"--help"}, ""},
         {{"chek", "voyages"}, "\"chek\" is no command; did you mean: timelinemaker check voyages"},
         {{"Make", "a b", "X.bd3"}, "\"Make\" is no command; did you mean: timelinemaker make \"a b\" X.bd3"},
-        {{"publish", "v"}, "\"publish\" is no command; the commands are new, check, play, make, pack, add, export, fairness"},
+        {{"publish", "v"},
+         "\"publish\" is no command; the commands are new, check, play, make, pack, add, export, fairness"},
         {{"check", "voyages/people.csv"}, "name the folder, which holds both files: timelinemaker check voyages"},
         {{"play", "Events.CSV"}, "name the folder, which holds both files: timelinemaker play ."},
         {{"make", "v2", "v2/people.csv"}, ""}, // which make itself refuses

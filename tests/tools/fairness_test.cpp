@@ -13,10 +13,12 @@ using tests::writefolder;
 class FairnessTest : public tests::ProgramTest {
 protected:
     // Of 100 questions of a kind about the same five people or events; the first of them are given.
-    static Fairness drawn(std::int16_t type, const std::vector<std::string>& people, const std::vector<std::string>& events)
+    static Fairness drawn(std::int16_t type, const std::vector<std::string>& people,
+                          const std::vector<std::string>& events)
     {
-        const std::vector<std::string> plainpeople = {"100,,150,,D1,,F1,O1", "300,,350,,D2,,F2,O2", "500,,550,,D3,,F3,O3",
-                                                      "700,,750,,D4,,F4,O4", "900,,950,,D5,,F5,O5"};
+        const std::vector<std::string> plainpeople = {"100,,150,,D1,,F1,O1", "300,,350,,D2,,F2,O2",
+                                                      "500,,550,,D3,,F3,O3", "700,,750,,D4,,F4,O4",
+                                                      "900,,950,,D5,,F5,O5"};
         const std::vector<std::string> plainevents = {"100,,,,E1,,G1,N1,", "300,,,,E2,,G2,N2,", "500,,,,E3,,G3,N3,",
                                                       "700,,,,E4,,G4,N4,", "900,,,,E5,,G5,N5,"};
         std::string peoplerows;
@@ -78,7 +80,8 @@ TEST_F(FairnessTest, CountsQuestionsWithTwoAnswersByTheRules)
         const auto about = [](std::int64_t wanted) { return wanted == 0 || wanted == 100 ? 0 : 15; };
         EXPECT_TRUE(found.asked);
         EXPECT_NEAR(static_cast<double>(found.clear), static_cast<double>(c.clear), about(c.clear)) << "case " << i;
-        EXPECT_NEAR(static_cast<double>(found.arguable), static_cast<double>(c.arguable), about(c.arguable)) << "case " << i;
+        EXPECT_NEAR(static_cast<double>(found.arguable), static_cast<double>(c.arguable), about(c.arguable))
+            << "case " << i;
     }
     EXPECT_FALSE(drawn(2, {"1,,,,D,,F1,O1", "2,,,,D,,F2,O2"}, {}).asked);
 }
@@ -88,7 +91,9 @@ TEST_F(FairnessTest, TheTableHasAColumnForEachTimeline)
     writefolder("old/rome", tests::goodpeople(), tests::goodevents());
     Findings findings;
     const std::string table = fairnesstable({"old/rome/", "nowhere"}, 100, 1, findings);
-    EXPECT_TRUE(table.starts_with("| Kind of question | Rome: clear | arguable |\n|---|---|---|\n| Dates for person | ")) << table;
+    EXPECT_TRUE(
+        table.starts_with("| Kind of question | Rome: clear | arguable |\n|---|---|---|\n| Dates for person | "))
+        << table;
     EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 15);
     EXPECT_EQ(findings.size(), 2U);
     EXPECT_EQ(fairnesstable({"old/rome"}, 100, 1, findings), table);

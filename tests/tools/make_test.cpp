@@ -71,13 +71,15 @@ TEST_F(Make, RefusesWhatCheckCallsAnError)
         {",,P,1,,", "column 13 (longitude): " + missing},
         {",,,1,2,", "column 11 (place): " + missing},
         {",,,,,own.png", "column 14 (picture): own.png cannot be opened: No such file or directory"},
-        {",,,,,text.png", "column 14 (picture): text.png is no picture in a known form; save it as png, jpg, bmp or gif"},
+        {",,,,,text.png",
+         "column 14 (picture): text.png is no picture in a known form; save it as png, jpg, bmp or gif"},
         {",,,,,../x.png", "column 14 (picture): ../x.png: no part of it may be empty or begin with a dot"},
     };
     fs::create_directory("in");
     writefile("in/text.png", "no picture");
     for (const Case& c : events) {
-        EXPECT_EQ(made("", "War,1,,,,D,,War,Rome" + c.row + '\n'), "in/events.csv:12: error: " + c.text + '\n') << c.row;
+        EXPECT_EQ(made("", "War,1,,,,D,,War,Rome" + c.row + '\n'), "in/events.csv:12: error: " + c.text + '\n')
+            << c.row;
         EXPECT_FALSE(fs::exists("Out.bd3"));
     }
     EXPECT_EQ(errors(maketimeline("nowhere", "Out.bd3", false).findings),
@@ -90,12 +92,13 @@ TEST_F(Make, RefusesWhatCheckCallsAnError)
 
 TEST_F(Make, TellsAllFaultsOfAllRows)
 {
-    EXPECT_EQ(made("A,x,,y,,D,,F,O\nB,1,,,,\"D\nE\",,F,O\n", "War,1,,,,D,,G,N,,P,1,x,\n"),
-              "in/people.csv:12: error: column 2 (date1): \"x\" is no year; write a whole number, as 1832, -44 or 44 BC\n"
-              "in/people.csv:12: error: column 4 (date2): \"y\" is no year; write a whole number, as 1832, -44 or 44 BC\n"
-              "in/people.csv:13: error: column 6 (desc1): the text holds a line break; it must be one line\n"
-              "in/events.csv:12: error: column 13 (longitude): \"x\" is no number of degrees from -180 to 180; write it as "
-              "50.91, south and west with a minus sign\n");
+    EXPECT_EQ(
+        made("A,x,,y,,D,,F,O\nB,1,,,,\"D\nE\",,F,O\n", "War,1,,,,D,,G,N,,P,1,x,\n"),
+        "in/people.csv:12: error: column 2 (date1): \"x\" is no year; write a whole number, as 1832, -44 or 44 BC\n"
+        "in/people.csv:12: error: column 4 (date2): \"y\" is no year; write a whole number, as 1832, -44 or 44 BC\n"
+        "in/people.csv:13: error: column 6 (desc1): the text holds a line break; it must be one line\n"
+        "in/events.csv:12: error: column 13 (longitude): \"x\" is no number of degrees from -180 to 180; write it as "
+        "50.91, south and west with a minus sign\n");
 }
 
 TEST_F(Make, GivesEachMapANameOfItsOwn)
@@ -109,9 +112,9 @@ TEST_F(Make, GivesEachMapANameOfItsOwn)
     }
     forms[3].picture = "maps/fall-of-rome-2.png";
     forms[4].latitude.reset();
-    EXPECT_EQ(picturenames(forms, "x"), (std::vector<std::string>{"x/maps/fall-of-rome.png", "x/maps/fall-of-rome-3.png",
-                                                                  "x/maps/fall-of-rome-4.png", "x/maps/fall-of-rome-2.png",
-                                                                  ""}));
+    EXPECT_EQ(picturenames(forms, "x"),
+              (std::vector<std::string>{"x/maps/fall-of-rome.png", "x/maps/fall-of-rome-3.png",
+                                        "x/maps/fall-of-rome-4.png", "x/maps/fall-of-rome-2.png", ""}));
     EXPECT_EQ(mapprefix("game/My Own.v2.BD3"), "my-own-v2");
     EXPECT_EQ(mapprefix("Medieval"), "medieval");
 

@@ -87,8 +87,9 @@ TEST_F(Mapmaker, DrawsAMapForEachEventWithoutItsOwnPicture)
         fs::last_write_time("out/" + name, longago);
     }
     EXPECT_EQ(report(drawmaps("in", "out", "Classic", false)),
-              "out/" + edessa + ": error: stands there already and is another picture; name another place, or replace it with "
-                                "--overwrite\n");
+              "out/" + edessa +
+                  ": error: stands there already and is another picture; name another place, or replace it with "
+                  "--overwrite\n");
     ASSERT_EQ(report(drawmaps("in", "out", "Classic", true)), "");
     for (const std::string& name : names) {
         EXPECT_EQ(fs::last_write_time("out/" + name) > longago, name == edessa) << name;
@@ -98,13 +99,14 @@ TEST_F(Mapmaker, DrawsAMapForEachEventWithoutItsOwnPicture)
 TEST_F(Mapmaker, TellsFaultsAndDrawsNothing)
 {
     writefolder("in", "", "War,1,,,,D,,G,N,,P,91,1,\nPeace,2,,,,D,,G,N,,P,1,1,\n");
-    EXPECT_EQ(report(drawmaps("in", "out", "x", false)),
-              "in/events.csv:2: error: column 12 (latitude): \"91\" is no number of degrees from -90 to 90; write it as 50.91, "
-              "south and west with a minus sign\n");
+    EXPECT_EQ(report(drawmaps("in", "out", "x", false)), "in/events.csv:2: error: column 12 (latitude): \"91\" is no "
+                                                         "number of degrees from -90 to 90; write it as 50.91, "
+                                                         "south and west with a minus sign\n");
     EXPECT_FALSE(fs::exists("out"));
     tests::writefile("out", "");
     tests::writefile("in/events.csv", tests::eventsheader() + "Peace,2,,,,D,,G,N,,P,1,1,\n");
-    EXPECT_EQ(report(drawmaps("in", "out", "x", false)), "out/x/maps/peace.png: error: cannot be written: Not a directory\n");
+    EXPECT_EQ(report(drawmaps("in", "out", "x", false)),
+              "out/x/maps/peace.png: error: cannot be written: Not a directory\n");
 }
 
 // The busiest coasts, the poles and the date line, with long names.

@@ -57,7 +57,8 @@ TEST_F(Summary, TellsWhatIsWrong)
     writefile("new/people.csv", "name,date1,desc1,faction,occupation,woman,fame\nA,1,D,Mars,King,maybe,6\n");
     writefile("regions.csv", "name\n");
     Findings findings;
-    EXPECT_NE(summarytable({"new"}, findings).find("\n| People of | not given |\n| Women | 0 (0.0%) |\n| Rulers | not given |"),
+    EXPECT_NE(summarytable({"new"}, findings)
+                  .find("\n| People of | not given |\n| Women | 0 (0.0%) |\n| Rulers | not given |"),
               std::string::npos);
     EXPECT_EQ(report(findings),
               "new/people.csv:2: error: column 7 (fame): \"6\" is no fame; write 1 (everyone has heard of it) to 5 "

@@ -104,7 +104,8 @@ class Spreadsheet : public tests::ProgramTest {};
 
 TEST_F(Spreadsheet, SavedInAnyCommonWayIsTheSameTimeline)
 {
-    const std::string people = tests::peopleheader() + tests::goodpeople() + "Ma Rong,100,,,,\"Lutes; and, books.\",,China,Poet\n";
+    const std::string people =
+        tests::peopleheader() + tests::goodpeople() + "Ma Rong,100,,,,\"Lutes; and, books.\",,China,Poet\n";
     const std::string events = tests::eventsheader() + tests::goodevents();
     const auto made = [](const std::string& peopletext, const std::string& eventstext) {
         writefile("people.csv", peopletext);
@@ -121,8 +122,9 @@ TEST_F(Spreadsheet, SavedInAnyCommonWayIsTheSameTimeline)
     EXPECT_EQ(both([](const std::string& t) { return utf16(converted(t, '\t'), false); }), wanted);
     EXPECT_EQ(both([](const std::string& t) { return utf16(converted(t, ';'), true); }), wanted);
     // Rows of nothing but separators, empty columns behind the last, headings in other letters and with blanks.
-    EXPECT_EQ(both([](std::string t) { return " Name , Date 1" + t.replace(t.find('\n'), 1, ",,\n,,,,\n").substr(10); }),
-              wanted);
+    EXPECT_EQ(
+        both([](std::string t) { return " Name , Date 1" + t.replace(t.find('\n'), 1, ",,\n,,,,\n").substr(10); }),
+        wanted);
 }
 
 TEST_F(Spreadsheet, TellsWhatIsWrongWithTheFile)
@@ -134,9 +136,11 @@ TEST_F(Spreadsheet, TellsWhatIsWrongWithTheFile)
     const std::string utf8 = "in Excel save it as \"CSV UTF-8\", in LibreOffice as \"Text CSV\" with the character set "
                              "\"Unicode (UTF-8)\"";
     const std::vector<Case> cases = {
-        {"", ":1: error: the file is empty; its first row must hold the headings name, date1, kind1, date2, kind2, desc1, "
-             "desc2, faction, occupation, woman, fame, source"},
-        {"name,date1,desc1,occupation\n", ":1: error: the column faction is missing; found: name, date1, desc1, occupation"},
+        {"",
+         ":1: error: the file is empty; its first row must hold the headings name, date1, kind1, date2, kind2, desc1, "
+         "desc2, faction, occupation, woman, fame, source"},
+        {"name,date1,desc1,occupation\n",
+         ":1: error: the column faction is missing; found: name, date1, desc1, occupation"},
         {"Name;Year\n", ":1: error: the columns date1, desc1, faction, occupation are missing; found: name, year"},
         {"My timeline,,,\n\nname,date1,desc1,faction,occupation\n",
          ":1: error: this is no row of headings; they stand in line 3, so delete the rows above that"},
@@ -144,9 +148,14 @@ TEST_F(Spreadsheet, TellsWhatIsWrongWithTheFile)
          ":1: error: the column name stands twice; give one of them another name"},
         {"colour," + tests::peopleheader(), ":1: note: the column colour is not known and left unread"},
         {"Mal\xF6,1\nMal\xF6,2\n", ": error: the file is not in UTF-8, so letters with accents would be lost; " + utf8},
-        {"PK\x03\x04 and so on",
-         ": error: this is a spreadsheet's own file; open it in the spreadsheet and save it as \"CSV UTF-8\" or \"Text CSV\""},
+        {"PK\x03\x04 and so on", ": error: this is a spreadsheet's own file; open it in the spreadsheet and save it as "
+                                 "\"CSV UTF-8\" or \"Text CSV\""},
     };
+    writefile("people.xlsx", "");
+    EXPECT_TRUE(
+        report(checkfolder("."))
+            .starts_with("./people.csv: error: cannot be read: No such file or directory; open ./people.xlsx in the "
+                         "spreadsheet and save it as \"CSV UTF-8\" or \"Text CSV\"\n"));
     for (const Case& c : cases) {
         writefile("people.csv", c.text);
         std::string said;
@@ -209,8 +218,14 @@ TEST(Values, KindsAndDegreesComeInManyForms)
         const char* field;
         double degrees; // 999: refused
     };
-    for (const Case& c : std::vector<Case>{{"50.91", 50.91}, {"50,91", 50.91}, {"\u221212,5", -12.5}, {"90", 90},
-                                           {"90.5", 999}, {"nan", 999}, {"1,2,3", 999}, {"50.9x", 999}}) {
+    for (const Case& c : std::vector<Case>{{"50.91", 50.91},
+                                           {"50,91", 50.91},
+                                           {"\u221212,5", -12.5},
+                                           {"90", 90},
+                                           {"90.5", 999},
+                                           {"nan", 999},
+                                           {"1,2,3", 999},
+                                           {"50.9x", 999}}) {
         EXPECT_EQ(degreesof(c.field, 90).value.value_or(999), c.degrees) << c.field;
     }
 }

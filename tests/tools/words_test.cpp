@@ -81,8 +81,8 @@ TEST(Words, AYearIsANumberOfThreeOrFourDigits)
 TEST(Words, SlipsOfThePenAreCounted)
 {
     const std::vector<std::tuple<std::string, std::string, std::size_t>> cases = {
-        {"", "", 0}, {"britain", "britain", 0}, {"britian", "britain", 1}, {"brtain", "britain", 1},
-        {"", "abc", 3}, {"kitten", "sitting", 3}, {"ab", "ba", 1},
+        {"", "", 0},    {"britain", "britain", 0}, {"britian", "britain", 1}, {"brtain", "britain", 1},
+        {"", "abc", 3}, {"kitten", "sitting", 3},  {"ab", "ba", 1},
     };
     for (const auto& [a, b, slips] : cases) {
         EXPECT_EQ(misspellings(a, b), slips) << a << ' ' << b;

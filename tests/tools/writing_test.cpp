@@ -89,12 +89,13 @@ TEST_F(WritingTest, MakeExportMakeGivesTheSameBytes)
     fs::create_directory("in/maps");
     writefile("one/classic/maps/sack-of-luoyang.png", "\x89PNG\r\n\x1A\n a map");
     writefile("in/maps/sack-of-luoyang.png", "another");
-    EXPECT_EQ(errors(exporttimeline("one/Classic.bd3", "in", false).findings),
-              "in/maps/sack-of-luoyang.png: error: stands there already and is no picture, so it is not replaced\n"
-              "in/people.csv: error: stands there already and is another spreadsheet; name another place, or replace it with "
-              "--overwrite\n"
-              "in/events.csv: error: stands there already and is another spreadsheet; name another place, or replace it with "
-              "--overwrite\n");
+    EXPECT_EQ(
+        errors(exporttimeline("one/Classic.bd3", "in", false).findings),
+        "in/maps/sack-of-luoyang.png: error: stands there already and is no picture, so it is not replaced\n"
+        "in/people.csv: error: stands there already and is another spreadsheet; name another place, or replace it with "
+        "--overwrite\n"
+        "in/events.csv: error: stands there already and is another spreadsheet; name another place, or replace it with "
+        "--overwrite\n");
     const Report exported = exporttimeline("one/Classic.bd3", "deep/copy", false);
     EXPECT_EQ(errors(exported.findings) + exported.said, "deep/copy: 11 people, 13 events");
     EXPECT_EQ(contentof("deep/copy/maps/sack-of-luoyang.png"), "\x89PNG\r\n\x1A\n a map");
@@ -124,10 +125,10 @@ TEST_F(WritingTest, ExportTakesWhatAFileHolds)
               "\xEF\xBB\xBF" + tests::peopleheader() + "\"Alé, the\",5,reign,,,One,Two,Rome,\n");
     EXPECT_EQ(contentof("out/events.csv"),
               "\xEF\xBB\xBF" + tests::eventsheader() + "War,-3,ca.,4,7,\"A \"\"b\"\"\",,State,Rome,Gaul,,,,\n");
-    EXPECT_EQ(
-        report(exporttimeline("Missing.bd3", "out", false).findings),
-        "Missing.bd3: error: cannot be opened: No such file or directory. Put the file into the program's folder, or choose "
-        "another period.\n");
+    EXPECT_EQ(report(exporttimeline("Missing.bd3", "out", false).findings),
+              "Missing.bd3: error: cannot be opened: No such file or directory. Put the file into the program's "
+              "folder, or choose "
+              "another period.\n");
     writefile("Evil.bd3", "0\n1\n\n\n\nWar\n3, 0\n3, 0\nA\n\n\n0, 0, 0\n../.bashrc\n0, 0\n\n0\n\n0\n\n0\n\n0\n");
     writefile(".bashrc", "mine");
     EXPECT_EQ(report(exporttimeline("Evil.bd3", "evil", false).findings),

@@ -262,8 +262,8 @@ std::string fairnessrules()
 {
     std::string text = "Each question is drawn as the game draws it, and has two answers where\n";
     for (std::size_t i = 0; i < rules.size(); ++i) {
-        text += "- " + std::string(kindof(static_cast<std::int16_t>(i + 1)).name) + ": " +
-                std::string(rules[i].words) + '\n';
+        text += "- " + std::string(kindof(static_cast<std::int16_t>(i + 1)).name) + ": " + std::string(rules[i].words) +
+                '\n';
     }
     return text;
 }
@@ -293,8 +293,9 @@ std::string fairnesstable(const std::vector<std::string>& targets, std::int64_t 
         text += "| " + std::string(kindof(static_cast<std::int16_t>(i + 1)).name) + " |";
         for (const Judged& column : columns) {
             const Fairness& shares = column.kinds[i];
-            text += shares.asked ? ' ' + percent(shares.clear, questions) + " | " + percent(shares.arguable, questions) + " |"
-                                 : std::string(" not asked | |");
+            text += shares.asked
+                        ? ' ' + percent(shares.clear, questions) + " | " + percent(shares.arguable, questions) + " |"
+                        : std::string(" not asked | |");
         }
         text += '\n';
     }

@@ -23,8 +23,8 @@ constexpr double sameplace = 100; // kilometres within which one name may stand 
 
 // Words of places that lie at sea, or on islands too small for the coastlines.
 constexpr std::array<std::string_view, 17> seawords = {
-    "archipelago", "atlantic", "atoll", "bay",   "cape",  "channel", "coast",  "gulf",   "island",
-    "islands",     "isle",     "isles", "ocean", "pacific", "sea",   "strait", "straits"};
+    "archipelago", "atlantic", "atoll", "bay",   "cape",    "channel", "coast",  "gulf",   "island",
+    "islands",     "isle",     "isles", "ocean", "pacific", "sea",     "strait", "straits"};
 
 std::string kilometres(double distance)
 {

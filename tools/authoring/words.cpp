@@ -48,8 +48,8 @@ constexpr const char16_t* folding = u":: NFD; :: [[:M:] ʿ ʾ ʼ ʻ ʹ] Remove; 
 constexpr const char16_t* tolatin = u":: Any-Latin;";
 
 // What is counted and has no plural with an s, or a short one.
-constexpr std::array<std::string_view, 17> measures = {"men",  "women", "people", "children", "feet", "horse",
-                                                       "foot", "sheep", "oxen",   "cattle",   "km",   "metres",
+constexpr std::array<std::string_view, 17> measures = {"men",  "women", "people", "children", "feet",  "horse",
+                                                       "foot", "sheep", "oxen",   "cattle",   "km",    "metres",
                                                        "tons", "guns",  "sail",   "percent",  "cities"};
 
 bool isdigit(char c)
@@ -95,9 +95,8 @@ std::string folded(std::string_view text)
 {
     std::string result;
     if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
-        std::transform(text.begin(), text.end(), std::back_inserter(result), [](char c) {
-            return c >= 'A' && c <= 'Z' ? "abcdefghijklmnopqrstuvwxyz"[c - 'A'] : c;
-        });
+        std::transform(text.begin(), text.end(), std::back_inserter(result),
+                       [](char c) { return c >= 'A' && c <= 'Z' ? "abcdefghijklmnopqrstuvwxyz"[c - 'A'] : c; });
         return result;
     }
     return put(text, folding);
@@ -171,8 +170,8 @@ std::string yearin(std::string_view text)
             continue;
         }
         const std::size_t start = at;
-        while (at < text.size() && (isdigit(text[at]) || ((text[at] == ',' || text[at] == '.') && at + 1 < text.size() &&
-                                                          isdigit(text[at + 1])))) {
+        while (at < text.size() && (isdigit(text[at]) || ((text[at] == ',' || text[at] == '.') &&
+                                                          at + 1 < text.size() && isdigit(text[at + 1])))) {
             ++at;
         }
         const std::string_view number = text.substr(start, at - start);
