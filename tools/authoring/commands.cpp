@@ -17,6 +17,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <regex>
 #include <string_view>
 #include <vector>
 
@@ -172,8 +173,12 @@ Report exporttimeline(const std::string& file, const std::string& folder, bool o
 
 Report newtimeline(const std::string& folder, char separator)
 {
+    // A spreadsheet that separates by semicolons takes 24.05 for a date in May. The examples hold no comma of their own.
     const auto separated = [separator](std::string text) {
-        std::replace(text.begin(), text.end(), ',', separator); // the examples hold no comma of their own
+        if (separator != ',') {
+            std::replace(text.begin(), text.end(), ',', separator);
+            text = std::regex_replace(text, std::regex(R"((\d)\.(\d))"), "$1,$2");
+        }
         return text;
     };
     Report report;
