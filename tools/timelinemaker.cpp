@@ -48,7 +48,8 @@ int tell(const Report& report, const std::string& folder, bool quiet)
     Findings rest = report.findings;
     std::erase_if(rest, [](const Finding& finding) { return finding.severity == Severity::error; });
     if (!rest.empty() && !quiet && !folder.empty()) {
-        std::cout << checkadvice(folder, counted(rest, Severity::warning, "warning"), counted(rest, Severity::note, "note"))
+        std::cout << checkadvice(folder, counted(rest, Severity::warning, "warning"),
+                                 counted(rest, Severity::note, "note"))
                   << '\n';
     }
     return errors.empty() ? 0 : 1;
@@ -61,8 +62,8 @@ int check(const std::vector<std::string>& targets)
         const Findings findings = istimelinefile(target) ? checkfile(target) : checkfolder(target);
         status = std::max(status, tell(findings, std::cout));
         std::cerr << target << ": " << counted(findings, Severity::error, "error") << ", "
-                  << counted(findings, Severity::warning, "warning") << ", " << counted(findings, Severity::note, "note")
-                  << '\n';
+                  << counted(findings, Severity::warning, "warning") << ", "
+                  << counted(findings, Severity::note, "note") << '\n';
     }
     return status;
 }
@@ -74,11 +75,11 @@ int summarize(const std::vector<std::string>& folders)
     return tell(findings, std::cerr);
 }
 
-int judge(const std::vector<std::string>& targets, std::uint64_t seed)
+int judge(const std::vector<std::string>& targets, std::int64_t questions, std::uint64_t seed)
 {
     Findings findings;
-    std::cout << fairnesstable(targets, seed, findings) << '\n'
-              << fairnessdraws << " questions of each kind, seed " << seed << ".\n";
+    std::cout << fairnesstable(targets, questions, seed, findings) << '\n'
+              << questions << " questions of each kind, seed " << seed << ".\n";
     return tell(findings, std::cerr);
 }
 
@@ -94,6 +95,7 @@ int main(int argc, char** argv)
     std::vector<std::string> targets;
     Places places = placesbeside(programfolder());
     std::uint64_t seed = 1;
+    std::int64_t questions = 20000;
     bool summary = false;
     bool overwrite = false;
     bool quiet = false;
@@ -104,7 +106,8 @@ int main(int argc, char** argv)
     const auto takesperiod = [&](CLI::App* command) {
         command->add_option("PERIOD", period, "Ancient, Classic, Medieval or Modern: the one whose place it takes")
             ->check([](const std::string& word) {
-                return periodnamed(word).empty() ? "the periods are Ancient, Classic, Medieval and Modern" : std::string();
+                return periodnamed(word).empty() ? "the periods are Ancient, Classic, Medieval and Modern"
+                                                 : std::string();
             });
         command->add_option("--game", places.game, "The folder of the game, where it is not found by itself");
     };
@@ -112,7 +115,8 @@ int main(int argc, char** argv)
         command->add_flag("--overwrite", overwrite, "Replace other files of the same names");
     };
 
-    CLI::App* beginning = app.add_subcommand("new", "Begin a timeline: a folder with both spreadsheets and three rows each");
+    CLI::App* beginning =
+        app.add_subcommand("new", "Begin a timeline: a folder with both spreadsheets and three rows each");
     beginning->add_option("FOLDER", folder, "The folder; made if missing")->required();
     beginning->add_flag("--semicolons", semicolons, "For a spreadsheet that separates columns by semicolons");
 
@@ -148,6 +152,7 @@ int main(int argc, char** argv)
     CLI::App* judging = app.add_subcommand("fairness", "Tell how many questions have two right answers");
     judging->add_option("TARGET", targets, "Folders, or timeline files ending in .bd3")->required();
     judging->add_option("--seed", seed, "Another number draws other questions");
+    judging->add_option("--questions", questions, "How many of each kind")->check(CLI::PositiveNumber);
     judging->footer(fairnessrules());
 
     const std::vector<std::string> words(argv + 1, argv + argc);
@@ -163,7 +168,11 @@ int main(int argc, char** argv)
         return summary ? summarize(targets) : check(targets);
     }
     if (playing->parsed()) {
-        return tell(playtimeline(folder, period, places), folder, false);
+        const auto ready = [&folder](const Report& report) {
+            tell(report, folder, false);
+            std::cout << "The game starts." << std::endl;
+        };
+        return tell(playtimeline(folder, period, places, ready), folder, false);
     }
     if (making->parsed()) {
         return tell(maketimeline(folder, file, overwrite), folder, quiet);
@@ -183,5 +192,5 @@ int main(int argc, char** argv)
     if (exporting->parsed()) {
         return tell(exporttimeline(file, folder, overwrite), "", false);
     }
-    return judge(targets, seed);
+    return judge(targets, questions, seed);
 }

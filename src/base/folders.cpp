@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <spawn.h>
@@ -91,18 +92,25 @@ Result<int> runprogram(const std::vector<std::string>& command)
         pointers.push_back(word.data());
     }
     pointers.push_back(nullptr);
+    // Ctrl+C is for the program that runs; what waits for it lives on and tidies up.
+    posix_spawnattr_t attributes;
+    sigset_t keyboard;
+    ::posix_spawnattr_init(&attributes);
+    ::sigemptyset(&keyboard);
+    ::sigaddset(&keyboard, SIGINT);
+    ::posix_spawnattr_setsigdefault(&attributes, &keyboard);
+    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
+    const auto before = ::signal(SIGINT, SIG_IGN);
     pid_t child = 0;
-    if (const int error = ::posix_spawn(&child, pointers.front(), nullptr, nullptr, pointers.data(), ::environ);
-        error != 0) {
-        return {std::nullopt, reasonof(error)};
-    }
+    const int error = ::posix_spawn(&child, pointers.front(), nullptr, &attributes, pointers.data(), ::environ);
+    ::posix_spawnattr_destroy(&attributes);
+    Result<int> result{std::nullopt, reasonof(error)};
     int status = 0;
-    while (::waitpid(child, &status, 0) < 0) {
-        if (errno != EINTR) {
-            return {std::nullopt, reasonof(errno)};
-        }
+    if (error == 0 && ::waitpid(child, &status, 0) == child) {
+        result = {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), {}};
     }
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), {}};
+    ::signal(SIGINT, before);
+    return result;
 }
 
 } // namespace brindor

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-// What the tools do with whole folders and programs, beside the calls on single files in files.h. Every failure's reason
-// is the system's own text.
+// What the tools do with whole folders and programs, beside the calls on single files in files.h. Every failure's
+// reason is the system's own text.
 namespace brindor {
 
 // A fresh empty folder for the user alone; removed with all that is in it when it goes out of scope.
@@ -30,8 +30,8 @@ private:
 
 bool isfolder(const std::string& path);
 
-// The regular files in a folder and below it, relative to it, in alphabetical order; links are not followed. Empty where
-// there is no such folder.
+// The regular files in a folder and below it, relative to it, in alphabetical order; links are not followed. Empty
+// where there is no such folder.
 std::vector<std::string> filesbelow(const std::string& folder);
 
 // Copies a file with its permissions.

@@ -38,13 +38,13 @@ void writefolder(const std::string& folder, const std::string& peoplerows, const
 std::string goodpeople()
 {
     return "Hypatia,360,ca.,415,,Taught geometry in Alexandria.,Killed by a mob.,Egypt,Scholar\n"
-           "Zenobia,267,reign,272,reign,Took Egypt from Rome.,Led in chains of gold.,Palmyra,Ruler\n"
+           "Zenobia,240,ca.,274,ca.,Took Egypt from Rome.,Led in chains of gold.,Palmyra,Ruler\n"
            "Kalidasa,400,ca.,,,Wrote of a cloud that bears a message.,,India,Poet\n"
            "Aryabhata,476,,550,ca.,Said that the earth turns.,,India,Scholar\n"
            "Ezana,330,ca.,356,ca.,Put the cross on the coins of Aksum.,,Aksum,Ruler\n"
            "Ge Hong,283,,343,,Sought the elixir of life.,,China,Scholar\n"
            "Frumentius,383,ca.,,,Brought a new faith to Aksum.,,Aksum,Priest\n"
-           "Odaenathus,252,reign,267,reign,Beat back the Persian king.,,Palmyra,Priest\n"
+           "Odaenathus,220,ca.,267,,Beat back the Persian king.,,Palmyra,Priest\n"
            "Cai Lun,121,ca.,,,Made the first good paper.,,China,Poet\n"
            "Diophantus,250,ca.,,,Gave numbers letters for names.,,Egypt,Scholar\n";
 }
@@ -61,6 +61,12 @@ std::string goodevents()
            "Iron pillar,402,ca.,,,It never rusted.,,Art,India,,Delhi,28.52,77.19,\n"
            "Battle of Fei River,383,,,,A panic scattered a host.,,State,China,,Shou,32.5,116.8,\n"
            "Sack of Carthage,439,,,,The grain of Africa was lost.,,State,Vandals,Aksum,Carthage,36.85,10.32,\n";
+}
+
+std::string errors(authoring::Findings findings)
+{
+    std::erase_if(findings, [](const auto& finding) { return finding.severity != authoring::Severity::error; });
+    return report(findings);
 }
 
 std::string report(const authoring::Findings& findings)

@@ -10,7 +10,7 @@ TEST(Words, FoldedTextsHaveNoCaseAndNoAccents)
 {
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"Malmö", "malmo"},           {"ÉCOLE", "ecole"},           {"Đại Việt", "dai viet"}, {"Kaʿba", "kaba"},
-        {"Weiße Ærø", "weisse aero"}, {"e\xCC\x81t\xCC\xA3", "et"}, {"Шах 12", "Шах 12"},     {"’tis", "'tis"},
+        {"Weiße Ærø", "weisse aero"}, {"e\xCC\x81t\xCC\xA3", "et"}, {"Шах 12", "шах 12"},     {"’tis", "'tis"},
     };
     for (const auto& [text, expected] : cases) {
         EXPECT_EQ(folded(text), expected);
@@ -23,7 +23,8 @@ TEST(Words, SlugsArePlainFileNames)
         {"Battle of Hastings", "battle-of-hastings"},
         {"Xi'an  &  Zhào's march!", "xian-zhaos-march"},
         {"  -Ärger-  ", "arger"},
-        {"Шах", "item"},
+        {"Шах", "sah"},
+        {"?!", "item"},
         {"", "item"},
         {"../../etc", "etc"},
         {std::string(79, 'a') + " b", std::string(79, 'a')},
@@ -64,12 +65,27 @@ TEST(Words, AYearIsANumberOfThreeOrFourDigits)
         {"-44 and 44", ""},
         {"1,000 ships", ""},
         {"12345 men", ""},
+        {"500 pounds", ""},
+        {"A 300-mile march", ""},
+        {"Lost 1200 men in 1812.", "1812"},
+        {"By 1520 he ruled", "1520"},
         {"The 3rd of 10", ""},
         {"1066, 1067", "1066"},
         {"Apollo 11 of 1969", "1969"},
     };
     for (const auto& [text, expected] : cases) {
         EXPECT_EQ(yearin(text), expected) << text;
+    }
+}
+
+TEST(Words, SlipsOfThePenAreCounted)
+{
+    const std::vector<std::tuple<std::string, std::string, std::size_t>> cases = {
+        {"", "", 0},    {"britain", "britain", 0}, {"britian", "britain", 1}, {"brtain", "britain", 1},
+        {"", "abc", 3}, {"kitten", "sitting", 3},  {"ab", "ba", 1},
+    };
+    for (const auto& [a, b, slips] : cases) {
+        EXPECT_EQ(misspellings(a, b), slips) << a << ' ' << b;
     }
 }
 

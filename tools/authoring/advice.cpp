@@ -75,7 +75,8 @@ public:
             if (name.empty()) {
                 notes_.warning(form, column, "empty; the questions that name it leave this record out");
             } else if (counted.insert(name).second) {
-                Use& use = uses_.try_emplace(name, Use{name, &form, column, 0, folded(name), wordsof(name)}).first->second;
+                Use& use =
+                    uses_.try_emplace(name, Use{name, &form, column, 0, folded(name), wordsof(name)}).first->second;
                 ++use.count;
             }
         }
@@ -154,12 +155,13 @@ private:
         for (std::size_t i = 0; i < std::min(once.size(), mostlisted); ++i) {
             names += (i == 0 ? "" : ", ") + once[i]->name;
         }
-        const std::string more = once.size() > mostlisted
-                                     ? " and " + numbertext(static_cast<std::int64_t>(once.size() - mostlisted)) + " more"
-                                     : "";
+        const std::string more =
+            once.size() > mostlisted
+                ? " and " + numbertext(static_cast<std::int64_t>(once.size() - mostlisted)) + " more"
+                : "";
         notes_.add(Severity::warning, 1,
-                   numbertext(static_cast<std::int64_t>(once.size())) + ' ' + std::string(what_) + "s are used only once, " +
-                       names + more + "; such a name is soon known by heart");
+                   numbertext(static_cast<std::int64_t>(once.size())) + ' ' + std::string(what_) +
+                       "s are used only once, " + names + more + "; such a name is soon known by heart");
     }
 
     std::string_view what_;

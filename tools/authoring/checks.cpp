@@ -55,9 +55,11 @@ void checkplayable(std::size_t count, ItemKind of, Notes& notes)
 {
     const std::string what = of == ItemKind::person ? "people" : "events";
     if (count < static_cast<std::size_t>(itemsasked)) {
-        notes.add(Severity::error, 1,
-                  "only " + numbertext(static_cast<std::int64_t>(count)) + ' ' + what + "; a question takes five, so give "
-                  "five at least");
+        notes.add(
+            Severity::error, 1,
+            "only " +
+                (of == ItemKind::person ? counttext(count, "person", "people") : counttext(count, "event", "events")) +
+                "; a question takes five, so give five at least");
         return;
     }
     for (std::int16_t type = 1; type <= lasttype; ++type) {

@@ -16,7 +16,8 @@ namespace brindor::authoring {
 
 namespace {
 
-constexpr std::array<std::string_view, 8> commands = {"new", "check", "play", "make", "pack", "add", "export", "fairness"};
+constexpr std::array<std::string_view, 8> commands = {"new",  "check", "play",   "make",
+                                                      "pack", "add",   "export", "fairness"};
 
 constexpr std::array<std::string_view, 2> sheets = {peoplefile, eventsfile};
 

@@ -1,10 +1,10 @@
 #include "authoring/commands.h"
 
 #include "authoring/checks.h"
+#include "authoring/commandline.h"
 #include "authoring/conversion.h"
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
-#include "authoring/commandline.h"
 #include "authoring/writing.h"
 #include "base/files.h"
 #include "base/picturename.h"
@@ -17,6 +17,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <regex>
 #include <string_view>
 #include <vector>
 
@@ -78,7 +79,8 @@ Forms examined(const std::string& folder, const std::string& prefix, Findings& f
 // "40 people, 40 events"
 std::string counts(const Forms& forms)
 {
-    return counttext(forms.people.size(), "person", "people") + ", " + counttext(forms.events.size(), "event", "events");
+    return counttext(forms.people.size(), "person", "people") + ", " +
+           counttext(forms.events.size(), "event", "events");
 }
 
 // The maps that are not there yet, with the command that draws them.
@@ -92,7 +94,8 @@ std::string undrawn(const Forms& forms, const std::string& prefix, const std::st
     if (count == 0) {
         return {};
     }
-    return "; " + numbertext(count) + (count == 1 ? " map is" : " maps are") + " not drawn yet, which mapmaker maps does";
+    return "; " + numbertext(count) + (count == 1 ? " map is" : " maps are") +
+           " not drawn yet, which mapmaker maps does";
 }
 
 constexpr std::string_view examplepeople =
@@ -119,12 +122,13 @@ Report maketimeline(const std::string& folder, const std::string& file, bool ove
     const std::string prefix = mapprefix(file);
     const Forms forms = examined(folder, prefix, report.findings);
     Writing writing(overwrite, report.findings);
-    takepictures(forms.events, folder, file, writing, report.findings);
     if (!haserrors(report.findings)) {
+        takepictures(forms.events, folder, file, writing, report.findings);
         writing.add(file, timelinetext());
     }
     if (writing.commit()) {
-        report.said = file.substr(file.find_last_of('/') + 1) + ": " + counts(forms) + undrawn(forms, prefix, folderof(file));
+        report.said =
+            file.substr(file.find_last_of('/') + 1) + ": " + counts(forms) + undrawn(forms, prefix, folderof(file));
     }
     return report;
 }
@@ -169,8 +173,12 @@ Report exporttimeline(const std::string& file, const std::string& folder, bool o
 
 Report newtimeline(const std::string& folder, char separator)
 {
+    // A spreadsheet that separates by semicolons takes 24.05 for a date in May. The examples hold no comma of their own.
     const auto separated = [separator](std::string text) {
-        std::replace(text.begin(), text.end(), ',', separator); // the examples hold no comma of their own
+        if (separator != ',') {
+            std::replace(text.begin(), text.end(), ',', separator);
+            text = std::regex_replace(text, std::regex(R"((\d)\.(\d))"), "$1,$2");
+        }
         return text;
     };
     Report report;
@@ -179,8 +187,10 @@ Report newtimeline(const std::string& folder, char separator)
     writing.add(folder, std::string(peoplefile), separated(peopletext(forms) + std::string(examplepeople)));
     writing.add(folder, std::string(eventsfile), separated(eventstext(forms) + std::string(exampleevents)));
     if (writing.commit()) {
-        report.said = folder + ": people.csv and events.csv with three example rows each; write your own rows, then "
-                               "timelinemaker play " + inshell(folder);
+        report.said = folder +
+                      ": people.csv and events.csv with three example rows each; write your own rows, then "
+                      "timelinemaker play " +
+                      inshell(folder);
     }
     return report;
 }

@@ -70,8 +70,8 @@ void checkreigns(const Forms& forms, Notes& notes)
 {
     const auto count = static_cast<std::int64_t>(forms.people.size());
     const std::int64_t reigns = std::count_if(forms.people.begin(), forms.people.end(), isreign);
-    const bool allearly = std::all_of(forms.events.begin(), forms.events.end(),
-                                      [](const EventForm& form) { return form.date1 < early; });
+    const bool allearly =
+        std::all_of(forms.events.begin(), forms.events.end(), [](const EventForm& form) { return form.date1 < early; });
     const std::int64_t most = allearly ? mostearlyreigns : mostreigns;
     const std::string have =
         numbertext(reigns) + " of " + numbertext(count) + (reigns == 1 ? " people has" : " people have") + " a reign";

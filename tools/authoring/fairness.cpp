@@ -219,22 +219,31 @@ Verdict judged(std::int16_t type, std::size_t asked)
     return worst;
 }
 
-struct Shares {
-    bool asked = false;
-    std::int64_t clear = 0; // of fairnessdraws
-    std::int64_t arguable = 0;
+// "0.42%"
+std::string percent(std::int64_t part, std::int64_t whole)
+{
+    const std::int64_t hundredths = (part * 10000 + whole / 2) / whole;
+    const std::string digits = numbertext(hundredths % 100);
+    return numbertext(hundredths / 100) + (digits.size() == 1 ? ".0" : ".") + digits + '%';
+}
+
+struct Judged {
+    std::string title;
+    std::array<Fairness, lasttype> kinds;
 };
 
-Shares sharesof(std::int16_t type, std::uint64_t seed)
+} // namespace
+
+Fairness fairnessof(std::int16_t type, std::int64_t questions, std::uint64_t seed)
 {
-    Shares shares;
+    Fairness shares;
     if (!canfill(type)) {
         return shares;
     }
     shares.asked = true;
     seedrandom(seed);
     qtype = type;
-    for (std::int64_t question = 0; question < fairnessdraws; ++question) {
+    for (std::int64_t question = 0; question < questions; ++question) {
         if (question % questionsofagame == 0) {
             clearmarks();
         }
@@ -249,32 +258,18 @@ Shares sharesof(std::int16_t type, std::uint64_t seed)
     return shares;
 }
 
-// "0.42%"
-std::string percent(std::int64_t part)
-{
-    const std::int64_t hundredths = (part * 10000 + fairnessdraws / 2) / fairnessdraws;
-    const std::string digits = numbertext(hundredths % 100);
-    return numbertext(hundredths / 100) + (digits.size() == 1 ? ".0" : ".") + digits + '%';
-}
-
-struct Judged {
-    std::string title;
-    std::array<Shares, lasttype> shares;
-};
-
-} // namespace
-
 std::string fairnessrules()
 {
     std::string text = "Each question is drawn as the game draws it, and has two answers where\n";
     for (std::size_t i = 0; i < rules.size(); ++i) {
-        text += "- " + std::string(kindof(static_cast<std::int16_t>(i + 1)).name) + ": " +
-                std::string(rules[i].words) + '\n';
+        text += "- " + std::string(kindof(static_cast<std::int16_t>(i + 1)).name) + ": " + std::string(rules[i].words) +
+                '\n';
     }
     return text;
 }
 
-std::string fairnesstable(const std::vector<std::string>& targets, std::uint64_t seed, Findings& findings)
+std::string fairnesstable(const std::vector<std::string>& targets, std::int64_t questions, std::uint64_t seed,
+                          Findings& findings)
 {
     std::vector<Judged> columns;
     for (const std::string& target : targets) {
@@ -283,7 +278,7 @@ std::string fairnesstable(const std::vector<std::string>& targets, std::uint64_t
         }
         Judged column{titleof(target), {}};
         for (std::int16_t type = 1; type <= lasttype; ++type) {
-            column.shares[static_cast<std::size_t>(type - 1)] = sharesof(type, seed);
+            column.kinds[static_cast<std::size_t>(type - 1)] = fairnessof(type, questions, seed);
         }
         columns.push_back(column);
     }
@@ -297,9 +292,10 @@ std::string fairnesstable(const std::vector<std::string>& targets, std::uint64_t
     for (std::size_t i = 0; i < rules.size(); ++i) {
         text += "| " + std::string(kindof(static_cast<std::int16_t>(i + 1)).name) + " |";
         for (const Judged& column : columns) {
-            const Shares& shares = column.shares[i];
-            text += shares.asked ? ' ' + percent(shares.clear) + " | " + percent(shares.arguable) + " |"
-                                 : std::string(" not asked | |");
+            const Fairness& shares = column.kinds[i];
+            text += shares.asked
+                        ? ' ' + percent(shares.clear, questions) + " | " + percent(shares.arguable, questions) + " |"
+                        : std::string(" not asked | |");
         }
         text += '\n';
     }

@@ -1,8 +1,8 @@
 #include "authoring/packs.h"
 
+#include "authoring/commandline.h"
 #include "authoring/folder.h"
 #include "authoring/pictures.h"
-#include "authoring/commandline.h"
 #include "authoring/words.h"
 #include "authoring/writing.h"
 #include "authoring/zipfile.h"
@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -35,19 +36,18 @@ Report refused(const std::string& file, const std::string& what)
 Report makewhole(const std::string& folder, const std::string& file, const Places& places)
 {
     Report report = maketimeline(folder, file, false);
-    const std::string mapmaker = inside(places.tools, "mapmaker");
     if (haserrors(report.findings)) {
         return report;
     }
+    const std::string mapmaker = inside(places.tools, "mapmaker");
     if (!isregularfile(mapmaker)) {
-        report.findings.push_back(
-            {Severity::warning, mapmaker, 0, "is not there, so the maps are left out; it is built where Qt is installed"});
+        report.said += ". The maps are left out: " + mapmaker + " is not there; it is built where Qt is installed";
         return report;
     }
     const Result<int> drawn = runprogram({mapmaker, "maps", folder, folderof(file), file});
+    report = maketimeline(folder, file, false); // writes nothing new, and tells which maps there are now
     if (!drawn || *drawn.value != 0) {
-        report.findings.push_back({Severity::warning, mapmaker, 0,
-                                   "has not drawn the maps" + (drawn ? std::string() : ": " + drawn.reason)});
+        report.said += ". " + mapmaker + " has failed" + (drawn ? std::string() : ": " + drawn.reason);
     }
     return report;
 }
@@ -136,12 +136,14 @@ std::string periodnamed(const std::string& word)
     return found == periodnames.end() ? std::string() : *found;
 }
 
-Report playtimeline(const std::string& folder, const std::string& period, const Places& places)
+Report playtimeline(const std::string& folder, const std::string& period, const Places& places,
+                    const std::function<void(const Report&)>& ready)
 {
     const std::string game = inside(places.game, "brindor");
     if (!isregularfile(game)) {
-        return refused(game, "is not there, so the timeline cannot be played; build the game with scripts/play, or name "
-                             "its folder with --game");
+        return refused(game,
+                       "is not there, so the timeline cannot be played; build the game with scripts/play, or name "
+                       "its folder with --game");
     }
     const Result<TemporaryFolder> scratch = TemporaryFolder::make();
     if (!scratch) {
@@ -153,14 +155,14 @@ Report playtimeline(const std::string& folder, const std::string& period, const 
     if (haserrors(report.findings)) {
         return report;
     }
-    Result<Done> ready = copygame(places.game, own);
-    const Result<int> played = ready ? runprogram({inside(own, "brindor")}) : Result<int>{std::nullopt, ready.reason};
+    ready(report);
+    const Result<Done> copied = copygame(places.game, own);
+    const Result<int> played = copied ? runprogram({inside(own, "brindor")}) : Result<int>{std::nullopt, copied.reason};
     if (!played || *played.value != 0) {
-        report.findings.push_back(
-            {Severity::error, game, 0,
-             played ? "ended with a failure, " + numbertext(*played.value) : "cannot be started: " + played.reason});
+        return refused(game, played ? "ended with a failure, " + numbertext(*played.value)
+                                    : "cannot be started: " + played.reason);
     }
-    return report;
+    return {};
 }
 
 Report packtimeline(const std::string& folder, const std::string& zipfile, bool overwrite, const Places& places)
@@ -173,6 +175,7 @@ Report packtimeline(const std::string& folder, const std::string& zipfile, bool 
         return refused(folder, "no folder to pack in could be made: " + scratch.reason);
     }
     Report report = makewhole(folder, inside(scratch.value->path(), titleof(folder) + ".bd3"), places);
+    const std::string left = report.said.substr(std::min(report.said.find(". "), report.said.size()));
     ZipContent files;
     for (const std::string& name : filesbelow(scratch.value->path())) {
         Result<std::string> content = readwhole(inside(scratch.value->path(), name), largestzip);
@@ -196,8 +199,9 @@ Report packtimeline(const std::string& folder, const std::string& zipfile, bool 
         return report;
     }
     report.said = zipfile + ": " + counttext(people.size() - 2, "person", "people") + ", " +
-                  counttext(events.size() - 2, "event", "events") + ", " + counttext(files.size() - 1, "picture", "pictures") +
-                  "; to be added to a game by timelinemaker add " + inshell(zipfile);
+                  counttext(events.size() - 2, "event", "events") + ", " +
+                  counttext(files.size() - 1, "picture", "pictures") + "; to be added to a game by timelinemaker add " +
+                  inshell(zipfile) + left;
     return report;
 }
 
@@ -228,8 +232,8 @@ Report addpack(const std::string& zipfile, const std::string& period, bool overw
     for (std::int16_t i = 0; i < eventcount(); ++i) {
         const std::string& name = eventrec(i).imagename;
         if (const std::string fault = name.empty() ? "" : picturenamefault(name); !fault.empty()) {
-            return refused(zipfile, "is not added: the event " + eventrec(i).name + " names a picture \"" + name + "\"; " +
-                                        fault);
+            return refused(zipfile, "is not added: the event " + eventrec(i).name + " names a picture \"" + name +
+                                        "\"; " + fault);
         }
         if (const auto picture = files.value->find(name); picture != files.value->end()) {
             writing.add(places.game, name, picture->second);

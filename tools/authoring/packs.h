@@ -2,6 +2,7 @@
 
 #include "authoring/commands.h"
 
+#include <functional>
 #include <string>
 
 // A timeline on its way to players: into a game of its own, into a zip file, out of it into the game.
@@ -20,8 +21,10 @@ Places placesbeside(const std::string& toolfolder);
 std::string periodnamed(const std::string& word);
 
 // Makes the timeline of a folder with its maps in a fresh folder and starts the game on it there; the fresh folder goes
-// when the game has ended. Takes nothing from the game but copies, and changes nothing there.
-Report playtimeline(const std::string& folder, const std::string& period, const Places& places);
+// when the game has ended. Takes nothing from the game but copies, and changes nothing there. `ready` is called with
+// what was made just before the game starts.
+Report playtimeline(const std::string& folder, const std::string& period, const Places& places,
+                    const std::function<void(const Report&)>& ready);
 
 // Puts the timeline of a folder with its maps and pictures into a zip file.
 Report packtimeline(const std::string& folder, const std::string& zipfile, bool overwrite, const Places& places);

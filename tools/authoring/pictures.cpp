@@ -42,8 +42,7 @@ int orientation(const std::string& content)
         exif_data_new_from_data(reinterpret_cast<const unsigned char*>(content.data()),
                                 static_cast<unsigned>(content.size())),
         exif_data_unref);
-    const ExifEntry* entry =
-        data ? exif_content_get_entry(data->ifd[EXIF_IFD_0], EXIF_TAG_ORIENTATION) : nullptr;
+    const ExifEntry* entry = data ? exif_content_get_entry(data->ifd[EXIF_IFD_0], EXIF_TAG_ORIENTATION) : nullptr;
     return entry != nullptr && entry->size >= 2 ? exif_get_short(entry->data, exif_data_get_byte_order(data.get())) : 1;
 }
 
@@ -90,8 +89,9 @@ EventPicture ownpicture(const EventForm& form, const std::string& name, const st
 {
     const Result<std::string> content = contentof(folder, form.picture);
     if (!content && ismap(form.picture) && picturenamefault(form.picture).empty()) {
-        notes.warning(form, "picture", missing(form.picture, content.reason) + "; give place, latitude and longitude "
-                                                                               "and no picture, and it is drawn anew");
+        notes.warning(form, "picture",
+                      missing(form.picture, content.reason) + "; give place, latitude and longitude "
+                                                              "and no picture, and it is drawn anew");
         return {name, mapwidth, mapheight};
     }
     if (!content) {
@@ -105,15 +105,19 @@ EventPicture ownpicture(const EventForm& form, const std::string& name, const st
     }
     const auto [width, height, marked] = *size.value;
     if (std::abs(static_cast<double>(width) / std::max<std::int16_t>(height, 1) / shape - 1) > tolerance) {
-        notes.warning(form, "picture", form.picture + " is " + numbertext(width) + " x " + numbertext(height) +
-                                           " pixels and will be stretched to 4:3; cut it to that shape, as 640 x 480");
+        notes.warning(form, "picture",
+                      form.picture + " is " + numbertext(width) + " x " + numbertext(height) +
+                          " pixels and will be stretched to 4:3; cut it to that shape, as 640 x 480");
     }
     if (marked) {
         notes.note(form, "picture", form.picture + " carries a rotation mark, which is respected when it is shown");
     }
     if (ismap(form.picture) && hasplace(form)) {
-        notes.warning(form, "picture", form.picture + " is a map that was drawn before, and stays; empty this column, "
-                                                      "and the map of " + form.place + " is drawn");
+        notes.warning(form, "picture",
+                      form.picture +
+                          " is a map that was drawn before, and stays; empty this column, "
+                          "and the map of " +
+                          form.place + " is drawn");
     }
     return {name, width, height};
 }
@@ -218,7 +222,8 @@ void takepictures(const std::vector<EventForm>& events, const std::string& folde
         }
         Result<std::string> content = contentof(folder, form.picture);
         if (content) {
-            writing.add(folderof(timelinefile), mapprefix(timelinefile) + '/' + form.picture, std::move(*content.value));
+            writing.add(folderof(timelinefile), mapprefix(timelinefile) + '/' + form.picture,
+                        std::move(*content.value));
         } else if (!ismap(form.picture)) {
             findings.push_back({Severity::error, inside(folder, form.picture), 0, "cannot be read: " + content.reason});
         }

@@ -33,8 +33,8 @@ std::string mapprefix(const std::string& timelinefile);
 // for one that is drawn, "medieval/" and the given name for one's own, else none. No two maps get one name.
 std::vector<std::string> picturenames(const std::vector<EventForm>& events, const std::string& prefix);
 
-// The pictures of the spreadsheets in a folder, with their sizes in pixels as they are shown. One's own that are missing
-// or can't be shown are errors; what spoils a picture is a warning.
+// The pictures of the spreadsheets in a folder, with their sizes in pixels as they are shown. One's own that are
+// missing or can't be shown are errors; what spoils a picture is a warning.
 std::vector<EventPicture> findpictures(const Forms& forms, const std::string& prefix, const std::string& folder,
                                        Findings& findings);
 

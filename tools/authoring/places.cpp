@@ -23,8 +23,8 @@ constexpr double sameplace = 100; // kilometres within which one name may stand 
 
 // Words of places that lie at sea, or on islands too small for the coastlines.
 constexpr std::array<std::string_view, 17> seawords = {
-    "archipelago", "atlantic", "atoll", "bay",   "cape",  "channel", "coast",  "gulf",   "island",
-    "islands",     "isle",     "isles", "ocean", "pacific", "sea",   "strait", "straits"};
+    "archipelago", "atlantic", "atoll", "bay",   "cape",    "channel", "coast",  "gulf",   "island",
+    "islands",     "isle",     "isles", "ocean", "pacific", "sea",     "strait", "straits"};
 
 std::string kilometres(double distance)
 {
@@ -54,7 +54,7 @@ void checksea(const EventForm& form, const Position& position, const Coastlines&
 void checkplaces(const Forms& forms, Findings& findings)
 {
     Notes notes(forms.eventsource, findings);
-    const Result<Coastlines> coastlines = readcoastlines(builtin("land.txt"));
+    static const Result<Coastlines> coastlines = readcoastlines(builtin("land.txt"));
     if (!coastlines) {
         notes.add(Severity::error, 0, coastlines.reason);
         return;

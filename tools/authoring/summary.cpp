@@ -127,8 +127,8 @@ Balance balanceof(const std::string& folder, Findings& findings)
     balance.peopleregions = countregions(forms.people, &PersonForm::faction, sides);
     balance.eventregions = countregions(forms.events, &EventForm::nation1, sides);
     if (forms.peoplesource.has("woman")) {
-        balance.women = std::count_if(forms.people.begin(), forms.people.end(),
-                                      [](const PersonForm& form) { return form.woman; });
+        balance.women =
+            std::count_if(forms.people.begin(), forms.people.end(), [](const PersonForm& form) { return form.woman; });
     }
     if (sides.rulers) {
         balance.rulers = std::count_if(forms.people.begin(), forms.people.end(), [&sides](const PersonForm& form) {
@@ -255,8 +255,7 @@ std::string summarytable(const std::vector<std::string>& folders, Findings& find
                   [source](const Balance& b) { return share(b.sources, source, b.records()); });
     }
     for (const char* fame : {"1", "2", "3", "4", "5", notgiven}) {
-        table.row("Fame: " + std::string(fame),
-                  [fame](const Balance& b) { return share(b.fame, fame, b.records()); });
+        table.row("Fame: " + std::string(fame), [fame](const Balance& b) { return share(b.fame, fame, b.records()); });
     }
     table.row("Fame: 1 to 3", [](const Balance& b) {
         std::optional<std::int64_t> known;

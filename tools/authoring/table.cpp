@@ -79,8 +79,8 @@ std::string headingfault(const std::vector<CsvRecord>& records, std::span<const 
     }
     if (!missing.empty()) {
         return (missing.size() == 1 ? "the column " : "the columns ") + listed(missing) +
-               (missing.size() == 1 ? " is" : " are") + " missing; found: " +
-               (headings.empty() ? "nothing" : listed(headings));
+               (missing.size() == 1 ? " is" : " are") +
+               " missing; found: " + (headings.empty() ? "nothing" : listed(headings));
     }
     for (const Column& column : columns) {
         const auto first = std::find(headings.begin(), headings.end(), column.name);
@@ -150,8 +150,9 @@ Result<std::string> decoded(const std::string& bytes)
 {
     const auto begins = [&bytes](std::string_view with) { return bytes.starts_with(with); };
     if (begins("PK\x03\x04") || begins("\xD0\xCF\x11\xE0")) {
-        return {std::nullopt, "this is a spreadsheet's own file; open it in the spreadsheet and save it as \"CSV UTF-8\" or "
-                              "\"Text CSV\""};
+        return {std::nullopt,
+                "this is a spreadsheet's own file; open it in the spreadsheet and save it as \"CSV UTF-8\" or "
+                "\"Text CSV\""};
     }
     if (begins("\xFF\xFE") || begins("\xFE\xFF")) {
         std::string text;
@@ -159,15 +160,28 @@ Result<std::string> decoded(const std::string& bytes)
         return {std::move(text), {}};
     }
     if (!isutf8(bytes)) {
-        return {std::nullopt, "the file is not in UTF-8, so letters with accents would be lost; in Excel save it as "
-                              "\"CSV UTF-8\", in LibreOffice as \"Text CSV\" with the character set \"Unicode (UTF-8)\""};
+        return {std::nullopt,
+                "the file is not in UTF-8, so letters with accents would be lost; in Excel save it as "
+                "\"CSV UTF-8\", in LibreOffice as \"Text CSV\" with the character set \"Unicode (UTF-8)\""};
     }
     return {std::string(withoutmark(bytes)), {}};
 }
 
+// Advice where the spreadsheet lies there in its own form.
+std::string unsaved(const std::string& file)
+{
+    for (const char* ending : {".ods", ".xlsx", ".xls"}) {
+        const std::string own = file.substr(0, file.find_last_of('.')) + ending;
+        if (isregularfile(own)) {
+            return "; open " + own + " in the spreadsheet and save it as \"CSV UTF-8\" or \"Text CSV\"";
+        }
+    }
+    return {};
+}
+
 // A row with something behind its last heading: most often a text with a separator in it that lacks its quotes.
-std::vector<CsvRecord> withoutlongrows(const Source& source, std::string_view separator,
-                                       std::vector<CsvRecord> records, Findings& findings)
+std::vector<CsvRecord> withoutlongrows(const Source& source, std::string_view separator, std::vector<CsvRecord> records,
+                                       Findings& findings)
 {
     const std::size_t columns = source.headings.size();
     std::erase_if(records, [&](const CsvRecord& record) {
@@ -203,7 +217,7 @@ std::optional<Table> readtable(const std::string& file, std::span<const Column> 
     };
     const Result<std::string> content = readwhole(file, largestfile);
     if (!content) {
-        return refuse(0, "cannot be read: " + content.reason);
+        return refuse(0, "cannot be read: " + content.reason + unsaved(file));
     }
     Result<std::string> text = decoded(*content.value);
     if (!text) {
@@ -214,7 +228,8 @@ std::optional<Table> readtable(const std::string& file, std::span<const Column> 
     CsvTable csv = parsecsv(*text.value, separator.character);
     if (csv.records.empty() && !csv.fault) {
         std::vector<std::string_view> names;
-        std::transform(columns.begin(), columns.end(), std::back_inserter(names), [](const Column& c) { return c.name; });
+        std::transform(columns.begin(), columns.end(), std::back_inserter(names),
+                       [](const Column& c) { return c.name; });
         return refuse(1, "the file is empty; its first row must hold the headings " + listed(names));
     }
     Table table;

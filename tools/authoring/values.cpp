@@ -59,7 +59,8 @@ constexpr std::array<Slip, 6> slips = {{
     {R"((\d{1,5})\s*(?:-|to|bis)\s*\d{1,5})", "write the year alone, $1; the last year goes into date2"},
     {R"(\d{1,2}[./]\d{1,2}[./](\d{1,5}).*)", "write the year alone, $1"},
     {R"((\d{1,3})[,.'](\d{3}))", "write the year without a separator, $1$2"},
-    {R"((?:ca?\.?|circa|about|reign)\s*(\d{1,5}).*)", "write the year alone, $1; the word goes into the column kind1 or kind2"},
+    {R"((?:ca?\.?|circa|about|reign)\s*(\d{1,5}).*)",
+     "write the year alone, $1; the word goes into the column kind1 or kind2"},
     {R"(.*?(\d{3,4}).*)", "write the year alone, as $1"},
 }};
 

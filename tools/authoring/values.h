@@ -6,7 +6,8 @@
 #include <string>
 #include <string_view>
 
-// What the fields of a spreadsheet mean. A field in a form that could mean two things is refused with the form to write.
+// What the fields of a spreadsheet mean. A field in a form that could mean two things is refused with the form to
+// write.
 namespace brindor::authoring {
 
 // A year: "44 BC", "44 BCE" and "-44" are -44, "AD 800", "800 CE" and "800" are 800.

@@ -44,18 +44,22 @@ std::string put(std::string_view text, const char16_t* rules)
 }
 
 // Signs for letters that Latin has not are dropped, and so are accents.
-constexpr const char16_t* folding =
-    u":: [ʿʾʼʻʹ] Remove; :: NFD; :: [:M:] Remove; :: NFC; :: Latin-ASCII; :: Lower; \\u00A0 > ' ';";
+constexpr const char16_t* folding = u":: NFD; :: [[:M:] ʿ ʾ ʼ ʻ ʹ] Remove; :: NFC; :: Latin-ASCII; :: Lower;";
 constexpr const char16_t* tolatin = u":: Any-Latin;";
 
 // What is counted and has no plural with an s, or a short one.
-constexpr std::array<std::string_view, 17> measures = {"men",  "women", "people", "children", "feet", "horse",
-                                                       "foot", "sheep", "oxen",   "cattle",   "km",   "metres",
+constexpr std::array<std::string_view, 17> measures = {"men",  "women", "people", "children", "feet",  "horse",
+                                                       "foot", "sheep", "oxen",   "cattle",   "km",    "metres",
                                                        "tons", "guns",  "sail",   "percent",  "cities"};
 
 bool isdigit(char c)
 {
     return c >= '0' && c <= '9';
+}
+
+bool isalnum(char c)
+{
+    return isdigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
 bool isletter(char c)
@@ -91,9 +95,8 @@ std::string folded(std::string_view text)
 {
     std::string result;
     if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
-        std::transform(text.begin(), text.end(), std::back_inserter(result), [](char c) {
-            return c >= 'A' && c <= 'Z' ? "abcdefghijklmnopqrstuvwxyz"[c - 'A'] : c;
-        });
+        std::transform(text.begin(), text.end(), std::back_inserter(result),
+                       [](char c) { return c >= 'A' && c <= 'Z' ? "abcdefghijklmnopqrstuvwxyz"[c - 'A'] : c; });
         return result;
     }
     return put(text, folding);
@@ -167,12 +170,13 @@ std::string yearin(std::string_view text)
             continue;
         }
         const std::size_t start = at;
-        while (at < text.size() && (isdigit(text[at]) || ((text[at] == ',' || text[at] == '.') && at + 1 < text.size() &&
-                                                          isdigit(text[at + 1])))) {
+        while (at < text.size() && (isdigit(text[at]) || ((text[at] == ',' || text[at] == '.') &&
+                                                          at + 1 < text.size() && isdigit(text[at + 1])))) {
             ++at;
         }
         const std::string_view number = text.substr(start, at - start);
-        const bool whole = number.find_first_of(",.") == std::string_view::npos;
+        const bool whole =
+            number.find_first_of(",.") == std::string_view::npos && (start == 0 || !isalnum(text[start - 1]));
         if (whole && (number.size() == 3 || number.size() == 4) && !countsthings(text.substr(at))) {
             return std::string(number);
         }

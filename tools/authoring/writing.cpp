@@ -74,7 +74,8 @@ std::string refusal(const std::string& folder, const std::string& name, const st
     if (std::string fault = relativenamefault(name); !fault.empty()) {
         return "is no name for a file to write; " + fault;
     }
-    const auto* sort = std::find_if(sorts.begin(), sorts.end(), [&name](const Sort& s) { return endsin(name, s.ending); });
+    const auto* sort =
+        std::find_if(sorts.begin(), sorts.end(), [&name](const Sort& s) { return endsin(name, s.ending); });
     if (sort == sorts.end()) {
         return "is not written; the tools write timelines (.bd3), spreadsheets (.csv), pictures and .zip files only";
     }
@@ -95,8 +96,9 @@ std::string refusal(const std::string& folder, const std::string& name, const st
     if (!sort->is(*there.value)) {
         return "stands there already and is no " + what + ", so it is not replaced";
     }
-    return overwrite ? "" : "stands there already and is another " + what +
-                                "; name another place, or replace it with --overwrite";
+    return overwrite
+               ? ""
+               : "stands there already and is another " + what + "; name another place, or replace it with --overwrite";
 }
 
 } // namespace

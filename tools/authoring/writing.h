@@ -21,14 +21,15 @@ public:
     // - the name ends in something else than bd3, csv, zip or a picture's ending, or the content is no such file;
     // - a link leads out of the folder;
     // - another file was taken for the same place;
-    // - another file stands there, unless `overwrite`; with it too where that file is of another kind than the name says.
+    // - another file stands there, unless `overwrite`; with it too where that file is of another kind than the name
+    // says.
     void add(const std::string& folder, const std::string& name, std::string content);
 
     // The same for a path as a person gives it.
     void add(const std::string& path, std::string content);
 
-    // Writes what was taken, in that order; a file that stands there with the same content is left alone. Writes nothing
-    // where the findings hold an error, and stops at the first failure. True where all was written.
+    // Writes what was taken, in that order; a file that stands there with the same content is left alone. Writes
+    // nothing where the findings hold an error, and stops at the first failure. True where all was written.
     bool commit();
 
 private:

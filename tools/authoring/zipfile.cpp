@@ -11,7 +11,8 @@ namespace brindor::authoring {
 namespace {
 
 constexpr std::int64_t mostfiles = 40000; // a timeline holds at most 32767 events
-constexpr std::time_t sometime = 946684800; // the first day of 2000, in every file, so that packing twice gives the same
+constexpr std::time_t sometime =
+    946684800; // the first day of 2000, in every file, so that packing twice gives the same
 
 struct Error {
     Error() { zip_error_init(&error); }
@@ -109,7 +110,8 @@ Result<ZipContent> unzipped(std::string_view bytes, std::size_t limit)
 {
     Error error;
     zip_source_t* source = zip_source_buffer_create(bytes.data(), bytes.size(), 0, &error.error);
-    const Archive archive(source == nullptr ? nullptr : zip_open_from_source(source, ZIP_RDONLY | ZIP_CHECKCONS, &error.error));
+    const Archive archive(source == nullptr ? nullptr
+                                            : zip_open_from_source(source, ZIP_RDONLY | ZIP_CHECKCONS, &error.error));
     if (!archive) {
         zip_source_free(source);
         return failed(error.text());

@@ -18,7 +18,8 @@ int main(int argc, char** argv)
 
     CLI::App* maps = app.add_subcommand("maps", "Draw a map for every event that has no picture of its own");
     maps->add_option("FOLDER", folder, "The folder with events.csv")->required();
-    maps->add_option("OUTFOLDER", outfolder, "The folder of the timeline file; the maps go to PREFIX/maps/ in it")->required();
+    maps->add_option("OUTFOLDER", outfolder, "The folder of the timeline file; the maps go to PREFIX/maps/ in it")
+        ->required();
     maps->add_option("PREFIX", prefix, "The timeline file's name, with or without .bd3")->required();
 
     CLI::App* title = app.add_subcommand("title", "Draw the background of the main screen");

@@ -44,8 +44,7 @@ std::vector<Position> placesof(const std::vector<EventForm>& events)
 
 } // namespace
 
-Findings drawmaps(const std::string& folder, const std::string& outfolder, const std::string& prefix,
-                  bool overwrite)
+Findings drawmaps(const std::string& folder, const std::string& outfolder, const std::string& prefix, bool overwrite)
 {
     Findings findings;
     Writing writing(overwrite, findings);

@@ -9,8 +9,8 @@ namespace brindor::mapmaker {
 // Each draws pictures and writes them; folders that are missing are made. A picture that stands there unchanged is left
 // alone, another one is replaced only if `overwrite`. With an error nothing is written.
 
-// Draws a map for every event of a folder that has a place and no picture of its own, under the names that timelinemaker
-// gives them in a timeline file PREFIX.bd3 in `outfolder`: OUTFOLDER/PREFIX/maps/NAME.png.
+// Draws a map for every event of a folder that has a place and no picture of its own, under the names that
+// timelinemaker gives them in a timeline file PREFIX.bd3 in `outfolder`: OUTFOLDER/PREFIX/maps/NAME.png.
 authoring::Findings drawmaps(const std::string& folder, const std::string& outfolder, const std::string& prefix,
                              bool overwrite);
 

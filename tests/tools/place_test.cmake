@@ -1,0 +1,60 @@
+# What the build puts into the game folder, and what it leaves alone there.
+# cmake -DSCRIPT=data/place.cmake -DSCRATCH=folder -P place_test.cmake
+cmake_minimum_required(VERSION 3.25)
+
+file(REMOVE_RECURSE ${SCRATCH})
+set(made ${SCRATCH}/made)
+set(game ${SCRATCH}/game)
+
+function(place)
+  execute_process(COMMAND ${CMAKE_COMMAND} -DMADE=${made} -DGAME=${game} -DLIST=${SCRATCH}/placed.txt
+                          -DNEWER=${SCRATCH}/stamp -P ${SCRIPT} ERROR_VARIABLE said COMMAND_ERROR_IS_FATAL ANY)
+  set(said "${said}" PARENT_SCOPE)
+endfunction()
+
+function(holds name expected)
+  set(found none)
+  if(EXISTS ${game}/${name})
+    file(READ ${game}/${name} found)
+  endif()
+  if(NOT found STREQUAL expected)
+    message(SEND_ERROR "${name} holds '${found}', not '${expected}'")
+  endif()
+endfunction()
+
+file(WRITE ${made}/Modern.bd3 1)
+file(WRITE ${made}/modern/maps/war.png 1)
+file(WRITE ${made}/modern/maps/peace.png 1)
+file(WRITE ${game}/Classic.bd3 mine)
+place()
+holds(Modern.bd3 1)
+holds(modern/maps/peace.png 1)
+
+# A new build: what it made is brought up to date or goes, what others have put there stays.
+file(WRITE ${made}/Modern.bd3 2)
+file(WRITE ${made}/Classic.bd3 2)
+file(WRITE ${made}/modern/maps/war.png 2)
+file(REMOVE ${made}/modern/maps/peace.png)
+file(WRITE ${game}/modern/maps/war.png mine)
+file(WRITE ${game}/voyages/maps/war.png mine)
+place()
+holds(Modern.bd3 2)
+holds(Classic.bd3 mine)
+holds(modern/maps/war.png mine)
+holds(modern/maps/peace.png none)
+holds(voyages/maps/war.png mine)
+if(NOT said MATCHES "Classic.bd3 is not the build's own and was left alone")
+  message(SEND_ERROR "nothing was said of Classic.bd3: ${said}")
+endif()
+
+# A file that somebody has removed comes back, in a build that has nothing else to do.
+file(TOUCH ${SCRATCH}/stamp)
+place()
+file(REMOVE ${game}/Classic.bd3)
+file(TOUCH ${SCRATCH}/placed.txt)
+place()
+holds(Classic.bd3 2)
+file(WRITE ${game}/Classic.bd3 other)
+file(TOUCH ${SCRATCH}/stamp)
+place()
+holds(Classic.bd3 other)
