@@ -9,8 +9,9 @@ namespace brindor::authoring {
 std::vector<UnaskedKind> unaskedkinds()
 {
     std::vector<UnaskedKind> unasked;
+    const ByType<bool> fillable = fillabletypes();
     for (std::int16_t type = 1; type <= lasttype; ++type) {
-        if (!canfill(type)) {
+        if (!fillable[static_cast<std::size_t>(type)]) {
             unasked.push_back({std::string(kindof(type).name), kindof(type).of == ItemKind::person});
         }
     }
