@@ -51,7 +51,7 @@ void read(const char* file, std::string_view content)
 void play(std::int16_t type)
 {
     qtype = type;
-    if (!canfill(type)) {
+    if (!fillabletypes()[static_cast<std::size_t>(type)]) {
         return;
     }
     std::set<std::string> texts;

@@ -1,6 +1,5 @@
 #include "base/text.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -160,6 +159,13 @@ std::string numbertext(std::int64_t number)
     return std::to_string(number);
 }
 
+void addnumber(std::string& text, std::int64_t number)
+{
+    std::array<char, std::numeric_limits<std::int64_t>::digits10 + 2> digits{};
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+    text.append(digits.data(), result.ptr);
+}
+
 std::string spacednumber(std::int64_t number)
 {
     return (number < 0 ? "" : " ") + numbertext(number);
@@ -243,15 +249,6 @@ std::string decimaltext(double number)
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number == 0 ? 0.0 : number,
                                       std::chars_format::general, 15);
     return {buffer.data(), result.ptr};
-}
-
-std::string_view takevalue(std::string_view& line)
-{
-    constexpr std::string_view separators = ", \t";
-    line.remove_prefix(std::min(line.find_first_not_of(separators), line.size()));
-    const std::string_view value = line.substr(0, line.find_first_of(separators));
-    line.remove_prefix(value.size());
-    return value;
 }
 
 std::string_view withoutmark(std::string_view text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -19,8 +20,9 @@ std::string toutf8(std::string_view bytes);
 // The length of a text in characters.
 std::size_t charactercount(std::string_view bytes);
 
-// A whole number in decimal, "-" before a negative one.
+// A whole number in decimal, "-" before a negative one; and the same, added to a text.
 std::string numbertext(std::int64_t number);
+void addnumber(std::string& text, std::int64_t number);
 
 // The same with a blank where the minus sign would stand: " 53", "-53".
 std::string spacednumber(std::int64_t number);
@@ -42,7 +44,14 @@ double textvalue(std::string_view text);
 std::string decimaltext(double number);
 
 // Takes the next value off a line: values stand between commas, blanks and tabs. Empty where none is left.
-std::string_view takevalue(std::string_view& line);
+inline std::string_view takevalue(std::string_view& line)
+{
+    const auto separates = [](char c) { return c == ',' || c == ' ' || c == '\t'; };
+    const auto begin = std::find_if_not(line.begin(), line.end(), separates);
+    const auto end = std::find_if(begin, line.end(), separates);
+    line = {end, line.end()};
+    return {begin, end};
+}
 
 // The part of `text` behind a UTF-8 byte order mark, or all of it.
 std::string_view withoutmark(std::string_view text);

@@ -33,9 +33,10 @@ bool enabled(std::int16_t type)
 // Tells why no question can be asked; false where one can.
 bool nothingtoask()
 {
+    const ByType<bool> fillable = fillabletypes();
     bool selected = false;
     for (std::int16_t type = 1; type <= lasttype; ++type) {
-        if (enabled(type) && canfill(type)) {
+        if (enabled(type) && fillable[static_cast<std::size_t>(type)]) {
             return false;
         }
         selected = selected || enabled(type);
@@ -49,11 +50,11 @@ bool nothingtoask()
 }
 
 // Type 1 takes the draws of 0 too, so it has two chances in 14.
-std::int16_t drawtype()
+std::int16_t drawtype(const ByType<bool>& fillable)
 {
     for (;;) {
         const std::int16_t type = clampvalue(drawbelow(lasttype + 1), 1, lasttype);
-        if (enabled(type) && canfill(type)) {
+        if (enabled(type) && fillable[static_cast<std::size_t>(type)]) {
             return type;
         }
     }
@@ -102,8 +103,9 @@ void playround(std::int16_t round)
     if (nplayers > 1) {
         logline("=====Round " + numbertext(round), 1, 1);
     }
+    const ByType<bool> fillable = fillabletypes(); // the Timeline does not change while a game is played
     for (std::int16_t count = 0; count < nquestion && !toolkit::quitting(); ++count) {
-        const std::int16_t type = drawtype();
+        const std::int16_t type = drawtype(fillable);
         logline("---- Question " + numbertext(count + 1), 2, 0);
         showquestion(type);
     }

@@ -21,7 +21,7 @@ void adddate(std::string& text, std::int16_t kind, std::int16_t date)
     default:
         return;
     }
-    text += numbertext(date);
+    addnumber(text, date);
 }
 
 } // namespace

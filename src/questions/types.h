@@ -11,11 +11,14 @@ namespace brindor {
 enum class ItemKind { any, person, event };
 enum class QuizScreen { none, mchoice, qsort, qmatch };
 
-// A piece of a text: adds what it says of an item to `text`.
-using TextPiece = void (*)(std::string& text, std::int16_t item);
+// A piece of a text: what it says of an item. What stands in no record is put together in `scratch`, which is empty;
+// the piece is good until the next one is asked for.
+using TextPiece = std::string_view (*)(std::string& scratch, std::int16_t item);
 
 // The pieces of a text in their order, nullptr behind the last; none at all where a type has no such text.
-using TextPieces = std::array<TextPiece, 5>;
+struct TextPieces {
+    std::array<TextPiece, 5> all;
+};
 
 struct QuestionKind {
     std::string_view name;
@@ -31,7 +34,10 @@ struct QuestionKind {
 // The row of a type; a row with nothing in it for a type outside the table.
 const QuestionKind& kindof(std::int16_t type);
 
-// The pieces put together for an item.
+// Adds the pieces put together for an item to a text.
 void addpieces(std::string& text, const TextPieces& pieces, std::int16_t item);
+
+// Whether the pieces put together for an item are this text. Puts nothing together for it.
+bool piecesare(std::string_view text, const TextPieces& pieces, std::int16_t item);
 
 } // namespace brindor

@@ -15,6 +15,11 @@ struct CatalogueEntry {
 using Catalogue = std::vector<CatalogueEntry>;
 
 // The one look-up: the name at `index`, and an empty text for 0 and for any index outside the Catalogue.
-const std::string& entryname(const Catalogue& catalogue, std::int16_t index);
+inline const std::string& entryname(const Catalogue& catalogue, std::int16_t index)
+{
+    static const std::string none;
+    const bool inside = index > 0 && static_cast<std::size_t>(index) < catalogue.size();
+    return inside ? catalogue[static_cast<std::size_t>(index)].name : none;
+}
 
 } // namespace brindor

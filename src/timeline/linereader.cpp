@@ -3,14 +3,17 @@
 #include "base/numbers.h"
 #include "base/text.h"
 
+#include <algorithm>
+#include <charconv>
+#include <cstring>
 #include <utility>
 
 namespace brindor {
 
 namespace {
 
-constexpr std::size_t chunk = 65536;
-constexpr std::int64_t longestline = 1048576; // no real line comes near; keeps a file without line ends out of memory
+constexpr std::size_t chunk = 262144;
+constexpr std::size_t longestline = 1048576; // no real line comes near; keeps a file without line ends out of memory
 
 // Long tokens of a broken file are cut in messages.
 std::string quoted(std::string_view found)
@@ -21,7 +24,10 @@ std::string quoted(std::string_view found)
 
 } // namespace
 
-LineReader::LineReader(OpenFile file, std::string filename) : file_(std::move(file)), filename_(std::move(filename)) {}
+LineReader::LineReader(OpenFile file, std::string filename)
+    : file_(std::move(file)), filename_(std::move(filename)), buffer_(chunk)
+{
+}
 
 Result<LineReader> LineReader::open(const std::string& filename)
 {
@@ -31,89 +37,110 @@ Result<LineReader> LineReader::open(const std::string& filename)
                                   ". Put the file into the program's folder, or choose another period."};
     }
     LineReader reader(std::move(*file.value), filename);
-    if (Result<Done> first = reader.fill(); !first) {
-        return {std::nullopt, first.reason};
+    if (!reader.fill()) {
+        return {std::nullopt, reader.failure_};
     }
-    reader.at_ = reader.buffer_.size() - withoutmark(reader.buffer_).size();
+    reader.rest_ = withoutmark(reader.rest_);
     return {std::move(reader), {}};
 }
 
-Result<Done> LineReader::fill()
+// What is left moves to the front; the buffer grows only for a line that takes most of it.
+bool LineReader::fill()
 {
-    buffer_.erase(0, at_);
-    at_ = 0;
-    const std::size_t before = buffer_.size();
-    buffer_.resize(before + chunk);
-    const Result<std::size_t> got = readsome(file_, std::span(buffer_).subspan(before));
-    buffer_.resize(before + got.value.value_or(0));
+    const std::size_t left = rest_.size();
+    if (left > 0) {
+        std::memmove(buffer_.data(), rest_.data(), left);
+    }
+    if (left > buffer_.size() / 2) {
+        buffer_.resize(buffer_.size() * 2);
+    }
+    const Result<std::size_t> got = readsome(file_, std::span(buffer_).subspan(left));
+    rest_ = {buffer_.data(), left + got.value.value_or(0)};
     if (!got) {
-        return {std::nullopt,
-                failure("cannot be read: " + got.reason + ". Check the disk and choose the period again.")};
+        refuse("cannot be read: " + got.reason + ". Check the disk and choose the period again.");
+        return false;
     }
     ended_ = *got.value == 0;
-    return {Done{}, {}};
+    return true;
 }
 
-Result<std::string> LineReader::line(std::string_view expected)
+bool LineReader::readon(std::size_t& end, std::string_view expected)
 {
-    std::size_t searched = at_;
-    std::size_t end = buffer_.find('\n', searched);
-    while (end == std::string::npos && !ended_) {
-        if (std::ssize(buffer_) - static_cast<std::ptrdiff_t>(at_) > longestline) {
+    while (end == std::string_view::npos && !ended_) {
+        const std::size_t searched = rest_.size();
+        if (!fill()) {
+            return false;
+        }
+        end = rest_.find('\n', searched);
+        if (std::min(end, rest_.size()) > longestline) {
             ++lines_;
-            return {std::nullopt,
-                    failure("the line is longer than " + numbertext(longestline) +
-                            " bytes. Check that this is a timeline file.")};
+            refuse("the line is longer than " + numbertext(std::int64_t{longestline}) +
+                   " bytes. Check that this is a timeline file.");
+            return false;
         }
-        searched = buffer_.size() - at_; // the fill moves what is left to the front
-        if (Result<Done> more = fill(); !more) {
-            return {std::nullopt, more.reason};
-        }
-        end = buffer_.find('\n', searched);
     }
-    if (end == std::string::npos && at_ == buffer_.size()) {
-        return {std::nullopt, failure("the file ends here, but " + std::string(expected) +
-                                      " should follow. Complete the file and choose the period again.")};
+    if (rest_.empty()) {
+        refuse("the file ends here, but " + std::string(expected) +
+               " should follow. Complete the file and choose the period again.");
+        return false;
+    }
+    end = std::min(end, rest_.size());
+    return true;
+}
+
+std::optional<std::string_view> LineReader::line(std::string_view expected)
+{
+    std::size_t end = rest_.find('\n');
+    if (end == std::string_view::npos && !readon(end, expected)) {
+        return std::nullopt;
     }
     ++lines_;
-    std::string text = buffer_.substr(at_, end == std::string::npos ? end : end - at_);
-    at_ = end == std::string::npos ? buffer_.size() : end + 1;
-    if (!text.empty() && text.back() == '\r') {
-        text.pop_back();
+    std::string_view text = rest_.substr(0, end);
+    rest_.remove_prefix(std::min(end + 1, rest_.size()));
+    if (text.ends_with('\r')) {
+        text.remove_suffix(1);
     }
-    return {std::move(text), {}};
+    return text;
 }
 
-Result<Done> LineReader::numbers(std::span<std::int16_t> numbers, std::string_view expected)
+bool LineReader::numbers(std::span<std::int16_t> numbers, std::string_view expected)
 {
     std::size_t found = 0;
     while (found < numbers.size()) {
-        const Result<std::string> text = line(expected);
+        std::optional<std::string_view> text = line(expected);
         if (!text) {
-            return {std::nullopt, text.reason};
+            return false;
         }
-        std::string_view rest = *text.value;
-        for (std::string_view token = takevalue(rest); !token.empty() && found < numbers.size();
-             token = takevalue(rest)) {
-            const std::optional<std::int64_t> number = wholenumber(token);
-            if (!number) {
-                return {std::nullopt, failure(quoted(token) + " is not a whole number. Correct " +
-                                              std::string(expected) + " and choose the period again.")};
+        for (std::string_view value = takevalue(*text); !value.empty() && found < numbers.size();
+             value = takevalue(*text)) {
+            std::int16_t& into = numbers[found++];
+            const char* const end = value.data() + value.size();
+            const auto plain = std::from_chars(value.data(), end, into);
+            if ((plain.ptr != end || plain.ec != std::errc()) && !takeodd(into, value, expected)) {
+                return false;
             }
-            const std::optional<std::int16_t> fitting = toint16(*number);
-            if (!fitting) {
-                return {std::nullopt, failure(quoted(token) + ' ' + std::string(outside16) + ". Correct " +
-                                              std::string(expected) + " and choose the period again.")};
-            }
-            numbers[found++] = *fitting;
         }
     }
-    return {Done{}, {}};
+    return true;
 }
 
-std::string LineReader::failure(std::string_view what) const
+// A number with a plus sign, or a failure.
+bool LineReader::takeodd(std::int16_t& into, std::string_view value, std::string_view expected)
 {
-    return filename_ + ", line " + numbertext(lines_) + ": " + std::string(what);
+    const std::optional<std::int64_t> number = wholenumber(value);
+    const std::optional<std::int16_t> fitting = number ? toint16(*number) : std::nullopt;
+    if (!fitting) {
+        refuse(quoted(value) + ' ' + std::string(number ? outside16 : "is not a whole number") + ". Correct " +
+               std::string(expected) + " and choose the period again.");
+        return false;
+    }
+    into = *fitting;
+    return true;
+}
+
+void LineReader::refuse(std::string_view what)
+{
+    failure_ = filename_ + ", line " + numbertext(lines_) + ": " + std::string(what);
 }
 
 } // namespace brindor

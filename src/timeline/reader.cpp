@@ -9,49 +9,43 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 
 namespace brindor {
 
 namespace {
 
-// The reading of one file. A step that fails leaves its text in `failure` and turns all later steps into nothing,
-// so the order of the file's lines can be read off the code.
+// The reading of one file. A step that fails turns all later steps into nothing, so the order of the file's lines can
+// be read off the code.
 struct Reading {
     LineReader reader;
-    std::string failure;
 
-    bool ok() const { return failure.empty(); }
+    bool ok() const { return reader.failure().empty(); }
 
     void line(std::string& into, std::string_view expected)
     {
-        if (ok()) {
-            Result<std::string> text = reader.line(expected);
-            into = text ? std::move(*text.value) : std::move(into);
-            failure = text.reason;
+        if (const std::optional<std::string_view> text = ok() ? reader.line(expected) : std::nullopt) {
+            into = *text;
         }
     }
 
     void headline(std::string_view expected)
     {
-        std::string dropped;
-        line(dropped, expected);
+        if (ok()) {
+            reader.line(expected);
+        }
     }
 
     template <class... Numbers>
     void numbers(std::string_view expected, Numbers&... into)
     {
         std::array<std::int16_t, sizeof...(into)> read{};
-        if (ok()) {
-            failure = reader.numbers(read, expected).reason;
-        }
-        if (ok()) {
+        if (ok() && reader.numbers(read, expected)) {
             auto next = read.begin();
             ((into = *next++), ...);
         }
     }
-
-    void refuse(std::string_view what) { failure = reader.failure(what); }
 };
 
 std::string nocount(std::int64_t count, const std::string& expected)
@@ -67,7 +61,7 @@ std::int16_t readcount(Reading& reading, std::string_view expected)
     reading.line(text, expected);
     const std::int64_t count = leadingnumber(text);
     if (reading.ok() && (count < 0 || count > mostrecords)) {
-        reading.refuse(nocount(count, std::string(expected)));
+        reading.reader.refuse(nocount(count, std::string(expected)));
     }
     return reading.ok() ? index16(count) : std::int16_t{0};
 }
@@ -104,6 +98,14 @@ void readblock(Reading& reading, Record& record)
     }
 }
 
+// All slots empty, two of them behind the last record.
+template <class Record>
+void makeempty(std::vector<Record>& records, double count)
+{
+    records.clear();
+    records.resize(static_cast<std::size_t>(count) + 2);
+}
+
 template <class Family>
 void readfamily(Reading& reading, std::int16_t count, std::vector<std::int64_t>* lines)
 {
@@ -123,7 +125,7 @@ void readcatalogue(Reading& reading, Catalogue& catalogue, std::int16_t& counter
     std::int16_t count = 0;
     reading.numbers("the count" + whose, count);
     if (reading.ok() && count < 0) {
-        reading.refuse(nocount(count, "the count" + whose));
+        reading.reader.refuse(nocount(count, "the count" + whose));
         count = 0;
         counter = 0;
         catalogue.resize(1);
@@ -133,10 +135,13 @@ void readcatalogue(Reading& reading, Catalogue& catalogue, std::int16_t& counter
     }
     counter = count;
     catalogue.resize(static_cast<std::size_t>(count) + 1);
+    const std::string head = "the head line of an entry" + whose;
+    const std::string entry = "the name of an entry" + whose;
+    const std::string weight = "the weight of an entry" + whose;
     for (std::size_t i = 1; i < catalogue.size() && reading.ok(); ++i) {
-        reading.headline("the head line of an entry" + whose);
-        reading.line(catalogue[i].name, "the name of an entry" + whose);
-        reading.numbers("the weight of an entry" + whose, catalogue[i].catweight);
+        reading.headline(head);
+        reading.line(catalogue[i].name, entry);
+        reading.numbers(weight, catalogue[i].catweight);
     }
 }
 
@@ -157,15 +162,15 @@ Result<Done> filltimeline(const std::string& filename, RecordLines* lines)
     if (!opened) {
         return {std::nullopt, opened.reason};
     }
-    Reading reading{std::move(*opened.value), {}};
+    Reading reading{std::move(*opened.value)};
     mindate = 9999;
     maxdate = -25000;
     const std::int16_t peoplelimit = readcount(reading, "the number of people");
     const std::int16_t eventlimit = readcount(reading, "the number of events");
     npeople = reading.ok() ? peoplelimit : 0;
     nevents = reading.ok() ? eventlimit : 0;
-    people.assign(static_cast<std::size_t>(npeople) + 2, {});
-    events.assign(static_cast<std::size_t>(nevents) + 2, {});
+    makeempty(people, npeople);
+    makeempty(events, nevents);
     readfamily<PersonFamily>(reading, peoplelimit, lines != nullptr ? &lines->people : nullptr);
     readfamily<EventFamily>(reading, eventlimit, lines != nullptr ? &lines->events : nullptr);
     readcatalogue(reading, factions, nfactions, "factions");
@@ -173,7 +178,7 @@ Result<Done> filltimeline(const std::string& filename, RecordLines* lines)
     readcatalogue(reading, groups, ngroups, "groups");
     readcatalogue(reading, nations, nnations, "nations");
     if (!reading.ok()) {
-        return {std::nullopt, reading.failure};
+        return {std::nullopt, reading.reader.failure()};
     }
     curperson = 0;
     curevent = 0;

@@ -4,17 +4,6 @@
 
 namespace brindor {
 
-namespace {
-
-template <class Record>
-const Record& recordat(const std::vector<Record>& records, std::int16_t k)
-{
-    static const Record none;
-    return k >= 0 && static_cast<std::size_t>(k) < records.size() ? records[static_cast<std::size_t>(k)] : none;
-}
-
-} // namespace
-
 std::vector<PersonRec> people;
 std::vector<EventRec> events;
 double npeople = 0;
@@ -49,16 +38,6 @@ std::int16_t peoplecount()
 std::int16_t eventcount()
 {
     return roundtoint16(nevents);
-}
-
-const PersonRec& personrec(std::int16_t k)
-{
-    return recordat(people, k);
-}
-
-const EventRec& eventrec(std::int16_t k)
-{
-    return recordat(events, k);
 }
 
 std::string periodfile(std::int16_t period)

@@ -58,8 +58,20 @@ std::int16_t peoplecount();
 std::int16_t eventcount();
 
 // A record by its index; an empty record for an index outside the array.
-const PersonRec& personrec(std::int16_t k);
-const EventRec& eventrec(std::int16_t k);
+template <class Record>
+const Record& recordat(const std::vector<Record>& records, std::int16_t k)
+{
+    static const Record none;
+    return k >= 0 && static_cast<std::size_t>(k) < records.size() ? records[static_cast<std::size_t>(k)] : none;
+}
+inline const PersonRec& personrec(std::int16_t k)
+{
+    return recordat(people, k);
+}
+inline const EventRec& eventrec(std::int16_t k)
+{
+    return recordat(events, k);
+}
 
 // The Catalogues; the first two belong to people, the others to events. Written by the load.
 extern Catalogue factions;

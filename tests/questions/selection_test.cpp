@@ -8,6 +8,7 @@
 #include "timeline/usedmarks.h"
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 #include <string>
 
@@ -100,26 +101,24 @@ TEST_F(Selection, BlankTexts)
 
 TEST_F(Selection, EqualTextsAndTooFewItems)
 {
+    ByType<bool> all{};
+    std::fill(all.begin() + 1, all.begin() + 1 + lasttype, true);
     tests::setnumbered(6, 6);
-    for (std::int16_t type = 1; type <= lasttype; ++type) {
-        EXPECT_TRUE(canfill(type)) << type;
-    }
+    EXPECT_EQ(fillabletypes(), all);
     people[1] = people[0];
     events[1] = events[0];
+    EXPECT_EQ(fillabletypes(), all); // exactly five different ones are left
     for (std::int16_t type = 1; type <= lasttype; ++type) {
-        EXPECT_TRUE(canfill(type)) << type; // exactly five different ones are left
         EXPECT_EQ(draw(type).front(), '5') << type;
     }
     people[2] = people[0];
     events[2] = events[0];
-    for (std::int16_t type = -1; type <= lasttype + 1; ++type) {
-        EXPECT_FALSE(canfill(type)) << type;
-    }
-    people[2].desc2 = "other";
-    people[2].date2 = 2000;
-    EXPECT_FALSE(canfill(2)); // only the first description line counts
-    EXPECT_FALSE(canfill(3)); // only the first date counts
-    EXPECT_TRUE(canfill(1));
+    EXPECT_EQ(fillabletypes(), ByType<bool>{});
+    people[2].desc2 = "other"; // only the first description line counts
+    people[2].date2 = 2000;    // for some types only the first date does
+    ByType<bool> datesalone{};
+    datesalone[1] = true;
+    EXPECT_EQ(fillabletypes(), datesalone);
 }
 
 TEST_F(Selection, WhereNothingCanPassItEnds)
@@ -157,6 +156,37 @@ TEST_F(Selection, IsUniform)
         chisquare += i == 3 ? 0 : (counts[i] - expected) * (counts[i] - expected) / expected;
     }
     EXPECT_LT(chisquare, 29.6); // 0.1 % of fair generators exceed this with 10 degrees of freedom
+}
+
+// The levels that nothing seems to pass are passed with the odds of 1001 blind tries each: 0 means the one good item of
+// mark 0, 1 the two of mark 1, 2 the others.
+TEST_F(Selection, KeepsTheOddsOfTheBlindTries)
+{
+    constexpr int items = 3000;
+    constexpr int draws = 4000;
+    tests::setnumbered(items, 0);
+    const auto hit = [](int open) { return 1 - std::pow(1 - open / double{items}, 1001); };
+    const double first = hit(1);
+    const double second = (1 - first) * hit(3);
+    const double third = 1 - first - second;
+    const double expected[] = {first + second / 3 + third / items, second * 2 / 3 + third * 2 / items,
+                               third * (items - 3.0) / items};
+    people[4].name = people[5].name = ""; // of mark 0, but never good
+    double counts[3] = {};
+    qtype = 6;
+    for (int i = 0; i < draws; ++i) {
+        usedmarks.assign(usedmarks.size(), 2);
+        usedmarks[4] = usedmarks[5] = usedmarks[100] = 0;
+        usedmarks[7] = usedmarks[2000] = 1;
+        const std::int16_t item = getitem(0);
+        ++counts[item == 100 ? 0 : item == 7 || item == 2000 ? 1 : 2];
+    }
+    double chisquare = 0;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const double number = draws * expected[i];
+        chisquare += (counts[i] - number) * (counts[i] - number) / number;
+    }
+    EXPECT_LT(chisquare, 13.8); // 0.1 % of fair generators exceed this with 2 degrees of freedom
 }
 
 TEST(Random, StaysBelowItsBound)

@@ -1,7 +1,7 @@
 #include "questions/texts.h"
 
-#include "questions/question.h"
 #include "questions/datetext.h"
+#include "questions/question.h"
 #include "questions/types.h"
 #include "support/programtest.h"
 #include "support/timelines.h"

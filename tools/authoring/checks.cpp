@@ -62,8 +62,9 @@ void checkplayable(std::size_t count, ItemKind of, Notes& notes)
                 "; a question takes five, so give five at least");
         return;
     }
+    const ByType<bool> fillable = fillabletypes();
     for (std::int16_t type = 1; type <= lasttype; ++type) {
-        if (kindof(type).of == of && !canfill(type)) {
+        if (kindof(type).of == of && !fillable[static_cast<std::size_t>(type)]) {
             notes.add(Severity::error, 1,
                       "the questions " + inquotes(kindof(type).name) + " cannot be asked; they need five " + what +
                           " that differ in what the question shows");

@@ -60,7 +60,10 @@ Verdict lives(std::int16_t a, std::int16_t b)
 {
     const Dates& one = personrec(a);
     const Dates& other = personrec(b);
-    return clearif(near(one.date1, other.date1) && near(one.date2, other.date2) && (isapprox(one) || isapprox(other)));
+    if (!near(one.date1, other.date1) || !near(one.date2, other.date2) || !(isapprox(one) || isapprox(other))) {
+        return Verdict::fair;
+    }
+    return isapprox(one) && isapprox(other) ? Verdict::clear : Verdict::arguable;
 }
 
 Verdict eventdates(std::int16_t a, std::int16_t b)
@@ -145,7 +148,8 @@ Verdict nearorder(const Dates& a, const Dates& b)
     return onea && oneb ? Verdict::clear : Verdict::arguable;
 }
 
-// A reign that begins some years after another's birth may well be that of the older person.
+// A reign that begins some years after another's birth may well be that of the older person; but where no birth of the
+// ruler is known, nobody can show it.
 bool reignafterbirth(const Dates& ruler, const Dates& other)
 {
     const int years = ruler.date1 - other.date1;
@@ -156,7 +160,8 @@ Verdict peopleorder(std::int16_t a, std::int16_t b)
 {
     const Dates& one = personrec(a);
     const Dates& other = personrec(b);
-    return reignafterbirth(one, other) || reignafterbirth(other, one) ? Verdict::clear : nearorder(one, other);
+    const bool mixed = reignafterbirth(one, other) || reignafterbirth(other, one);
+    return std::max(mixed ? Verdict::arguable : Verdict::fair, nearorder(one, other));
 }
 
 Verdict eventorder(std::int16_t a, std::int16_t b)
@@ -177,14 +182,14 @@ constexpr std::string_view nationrule =
 
 // By number of kind, from 1.
 constexpr std::array<Rule, lasttype> rules = {{
-    {lives, "both ends of another choice lie within 10 years of the asked person's and one of the two has \"ca.\": "
-            "clear; the asked person's is the only choice with \"(reign)\", which gives it away: arguable."},
+    {lives, "both ends of another choice lie within 10 years of the asked person's, and both have \"ca.\": clear, one "
+            "has it: arguable; the asked person's is the only choice with \"(reign)\", which gives it away: arguable."},
     {descriptions, "another choice has the same first description: clear."},
     {factionlives, matchedlives},
     {never, "equal texts never come together, so every question is fair."},
     {occupationlives, matchedlives},
     {peopleorder, "first dates of two people 1 to 10 years apart, both \"ca.\": clear, one \"ca.\": arguable; a reign "
-                  "that begins 1 to 40 years after another's birth: clear."},
+                  "that begins 1 to 40 years after another's birth: arguable."},
     {eventdates, "another choice's dates overlap the asked one's and are equal to them, or one of the two has \"ca.\": "
                  "clear; else arguable."},
     {happened, "another choice's dates are equal to the asked one's or overlap them: clear."},
@@ -237,7 +242,7 @@ struct Judged {
 Fairness fairnessof(std::int16_t type, std::int64_t questions, std::uint64_t seed)
 {
     Fairness shares;
-    if (!canfill(type)) {
+    if (!fillabletypes()[static_cast<std::size_t>(type)]) {
         return shares;
     }
     shares.asked = true;
