@@ -135,25 +135,6 @@ TEST_F(WidgetTest, ALongListOfNamesFillsQuicklyAndIsSearchedByTyping)
     EXPECT_EQ(shelf.picked, "Zenobia 200 ");
 }
 
-TEST_F(WidgetTest, ABarTellsThatItIsPickedUpAndLiesOnTop)
-{
-    std::array<Button, 2> bars;
-    for (std::size_t i = 0; i < bars.size(); ++i) {
-        add(shelf, bars[i], indexed("bar", static_cast<int>(i)));
-        bars[i].bar = true;
-        bars[i].place = {4500, 4500, 3000, 480};
-    }
-    showwhile(shelf, [this, &bars] {
-        const auto ontop = [this] { return windowof(shelf).childAt(310, 310)->objectName(); };
-        EXPECT_EQ(ontop(), "bar(1)");
-        startdrag(bars[0]);
-        EXPECT_EQ(widgetof(bars[0]).accessibleDescription(), "picked up");
-        EXPECT_EQ(ontop(), "bar(0)");
-        enddrag(bars[0]);
-        EXPECT_EQ(widgetof(bars[0]).accessibleDescription(), "");
-    });
-}
-
 TEST_F(WidgetTest, TheMachinesOwnViewerComesFirst)
 {
     const ScratchFolder folder;
