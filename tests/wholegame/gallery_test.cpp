@@ -23,8 +23,8 @@ class GalleryTest : public GameTest {
 protected:
     GalleryTest()
     {
-        setcatalogues({"", "Egypt", "Babylon", "Athens", "Persia"}, {"", "Pharaoh", "King", "Lawgiver", "Poet"},
-                      {"", "Battle", "Building", "Law"}, {"", "Egypt", "Hittites", "Greece", "Persia"});
+        setcatalogues({"Egypt", "Babylon", "Athens", "Persia"}, {"Pharaoh", "King", "Lawgiver", "Poet"},
+                      {"Battle", "Building", "Law"}, {"Egypt", "Hittites", "Greece", "Persia"});
         settimeline(
             {person("Hatshepsut", years(-1479, -1458, reign, reign), "Queen who ruled as a king.",
                     "Her temple stands at Deir el-Bahari.", 1, 1),
@@ -46,6 +46,7 @@ protected:
              event("Laws of Draco", year(-621), "Most offences were punished by death.", "", 3, 3, 3),
              event("Battle of Salamis", year(-480), "A fleet was lured into the narrows.", "", 1, 3, 4),
              event("Conquest of Egypt", year(-525), "The last pharaoh of the old line was taken.", "", 1, 4, 1)});
+        writefile("Ancient.bd3", timelinetext());
     }
 
     toolkit::QtHost qthost;
@@ -99,9 +100,6 @@ TEST_F(GalleryTest, KeyScreensLookAsApproved)
             }
             const double part = difference(coarse(now), coarse(QImage(file)));
             EXPECT_LE(part, tolerated) << exhibit.name;
-            if (part > tolerated) {
-                now.save(QString::fromStdString("/tmp/" + exhibit.name + ".png"));
-            }
         });
     }
     EXPECT_EQ(seen, keyscreens.size());
@@ -150,12 +148,12 @@ void checkcontrol(const toolkit::Control& control, QWidget& widget)
     if (field) {
         EXPECT_NE(name(*about), control.text) << control.name;
         const bool shared = control.name == "Text3"; // "Size" stands for both numbers
-        EXPECT_TRUE(shared || !about->relations(QAccessible::Label).isEmpty()) << control.name;
+        EXPECT_TRUE(shared || control.kind == Kind::list || !about->relations(QAccessible::Label).isEmpty()) << control.name;
     }
     if (widget.isVisible()) {
         EXPECT_EQ(about->rect().size(), widget.size()) << control.name;
     }
-    for (int i = 0; control.kind == Kind::spin && i < about->childCount(); ++i) {
+    for (int i = 0; control.kind == Kind::spin && widget.isVisible() && i < about->childCount(); ++i) {
         EXPECT_TRUE(name(*about->child(i)).find(' ') != std::string::npos) << control.name;
         EXPECT_GE(about->child(i)->rect().height(), 20) << control.name;
     }

@@ -70,18 +70,20 @@ private:
     QComboBox& combo_;
 };
 
-class OptionAccess : public QAccessibleWidget {
+class PressAccess : public QAccessibleWidget {
 public:
-    OptionAccess(QAbstractButton* option, Pressable& pressable)
-        : QAccessibleWidget(option, QAccessible::RadioButton), option_(*option), pressable_(pressable)
+    PressAccess(QWidget* widget, Pressable& pressable)
+        : QAccessibleWidget(widget, pressable.accessrole()), pressable_(pressable)
     {
     }
 
     QAccessible::State state() const override
     {
         QAccessible::State result = QAccessibleWidget::state();
-        result.checkable = true;
-        result.checked = option_.isChecked();
+        if (const auto* option = qobject_cast<const QAbstractButton*>(widget())) {
+            result.checkable = true;
+            result.checked = option->isChecked();
+        }
         return result;
     }
 
@@ -97,7 +99,6 @@ public:
     }
 
 private:
-    QAbstractButton& option_;
     Pressable& pressable_;
 };
 
@@ -116,7 +117,7 @@ QAccessibleInterface* makeaccess(const QString& /*classname*/, QObject* object)
         return new ComboAccess(combo);
     }
     if (auto* pressable = dynamic_cast<Pressable*>(object)) {
-        return new OptionAccess(static_cast<QAbstractButton*>(object), *pressable);
+        return new PressAccess(static_cast<QWidget*>(object), *pressable);
     }
     return nullptr;
 }

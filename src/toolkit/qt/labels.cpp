@@ -43,6 +43,8 @@ public:
         return text == 0 ? 0 : text + margins.top() + margins.bottom();
     }
 
+    QAccessible::Role accessrole() const override { return QAccessible::StaticText; }
+
     void highlight(bool on)
     {
         highlighted_ = on;
