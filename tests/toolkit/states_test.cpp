@@ -74,7 +74,7 @@ std::string related(QAccessibleInterface& about, QAccessible::Relation kind)
     return names;
 }
 
-// "role 'name' 'value': description [states] < labels"
+// "role 'name' = value: description states < its labels > what it labels"
 std::string told(QObject& widget)
 {
     QAccessibleInterface* about = QAccessible::queryAccessibleInterface(&widget);
@@ -90,7 +90,8 @@ std::string told(QObject& widget)
     text += state.invisible ? " invisible" : "";
     text += state.modal ? " modal" : "";
     const std::string labels = related(*about, QAccessible::Label);
-    return text + (labels.empty() ? "" : " <" + labels);
+    const std::string fields = related(*about, QAccessible::Labelled);
+    return text + (labels.empty() ? "" : " <" + labels) + (fields.empty() ? "" : " >" + fields);
 }
 
 TEST(StatesTest, WhatEachControlTells)
@@ -107,7 +108,7 @@ TEST(StatesTest, WhatEachControlTells)
         {[&] { disable(form.go); }, form.go, "Button 'Bread & butter' disabled"},
         {nothing, form.line, "EditableText 'Salt & pepper' = 12 < Salt & pepper"},
         {[&] { settext(form.line, "13"); }, form.line, "EditableText 'Salt & pepper' = 13 < Salt & pepper"},
-        {nothing, form.linelabel, "StaticText 'Salt & pepper'"},
+        {nothing, form.linelabel, "StaticText 'Salt & pepper' > Salt & pepper"},
         {nothing, form.combo, "ComboBox 'Nation' = Rome < Nation"},
         {nothing, form.frame, "Grouping 'Kinds'"},
         {nothing, form.option, "RadioButton 'Reign'"},
@@ -116,19 +117,19 @@ TEST(StatesTest, WhatEachControlTells)
         {[&] { hide(form.list); }, form.list, "List 'Lines' = Lines invisible"},
         {nothing, form.first, "Button 'First': Drag it"},
         {[&] { startdrag(form.first); }, form.first, "Button 'First': Picked up. Drag it"},
-        {nothing, form.row, "StaticText 'Egypt': Empty. "},
+        {nothing, form.row, "StaticText 'Egypt': Empty."},
         {[&] {
              enddrag(form.first);
              movetop(form.first, form.row.place.top);
          },
          form.first, "Button 'First': On the row Egypt. Drag it"},
-        {nothing, form.row, "StaticText 'Egypt': Holds First. "},
+        {nothing, form.row, "StaticText 'Egypt': Holds First."},
         {[&] {
              startdrag(form.second);
              enddrag(form.second);
              movetop(form.second, form.row.place.top);
          },
-         form.row, "StaticText 'Egypt': Holds Second. "}, // it lies on top
+         form.row, "StaticText 'Egypt': Holds Second."}, // it lies on top
     };
     showwhile(form, [&] {
         EXPECT_EQ(told(windowof(form)), "Window 'A form'");

@@ -116,7 +116,8 @@ QAccessibleInterface* makeaccess(const QString& /*classname*/, QObject* object)
     if (auto* combo = qobject_cast<QComboBox*>(object)) {
         return new ComboAccess(combo);
     }
-    if (auto* pressable = dynamic_cast<Pressable*>(object)) {
+    auto* pressable = dynamic_cast<Pressable*>(object);
+    if (pressable != nullptr && pressable->accessrole() != QAccessible::NoRole) {
         return new PressAccess(static_cast<QWidget*>(object), *pressable);
     }
     return nullptr;
@@ -152,12 +153,12 @@ void telldrops(ScreenWindow& window, const Screen& screen)
             const Button*& held = holds[row];
             held = held == nullptr || liesabove(widget, window.widgetof(*held)) ? &bar : held;
         }
-        widget.setAccessibleDescription(text + shown(bar.tooltip));
+        widget.setAccessibleDescription((text + shown(bar.tooltip)).trimmed());
     }
     for (const auto& [row, bar] : holds) {
         const QString text = bar == nullptr ? QStringLiteral("Empty. ")
                                             : QLatin1String("Holds ") + shown(bar->text) + QLatin1String(". ");
-        window.widgetof(*row).setAccessibleDescription(text + shown(row->tooltip));
+        window.widgetof(*row).setAccessibleDescription((text + shown(row->tooltip)).trimmed());
     }
 }
 

@@ -12,7 +12,7 @@ class ScreenWindow;
 class Pressable {
 public:
     virtual void pressfor() = 0;
-    virtual QAccessible::Role accessrole() const = 0;
+    virtual QAccessible::Role accessrole() const = 0; // NoRole for one that does nothing and is left to Qt
 
 protected:
     ~Pressable() = default;

@@ -43,7 +43,7 @@ public:
         return text == 0 ? 0 : text + margins.top() + margins.bottom();
     }
 
-    QAccessible::Role accessrole() const override { return QAccessible::StaticText; }
+    QAccessible::Role accessrole() const override { return listens() ? QAccessible::StaticText : QAccessible::NoRole; }
 
     void highlight(bool on)
     {
