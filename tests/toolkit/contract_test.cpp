@@ -251,12 +251,14 @@ TEST_P(ContractTest, EscapePutsABarDown)
 
 TEST_P(ContractTest, ASpinStepsTheNumberOfItsField)
 {
-    EXPECT_EQ(play({[this](Person& person) { person.type(all.line, "9"); },
-                    [this](Person& person) { person.stepup(all.spin); },
-                    [this](Person& person) { person.stepup(all.spin); }}),
-              "all: line is '9'\n"
-              "all: line left\n"
-              "all: line is '10'\n");
+    EXPECT_EQ(
+        play({[this](Person& person) { person.type(all.line, "8"); },
+              [this](Person& person) { person.pressup(all.line); }, [this](Person& person) { person.stepup(all.spin); },
+              [this](Person& person) { person.stepup(all.spin); }}),
+        "all: line is '8'\n"
+        "all: line is '9'\n"
+        "all: line left\n"
+        "all: line is '10'\n");
 }
 
 TEST_P(ContractTest, WhatCannotBeReachedDoesNothing)

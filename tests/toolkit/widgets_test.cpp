@@ -156,6 +156,8 @@ TEST(TextTest, BytesAreShownAndTypedTextComesBack)
     EXPECT_EQ(shown("Br\xc3\xbcgge"), QString::fromUtf8("Br\xc3\xbcgge"));
     EXPECT_EQ(shown("Br\xfcgge"), QString::fromUtf8("Br\xc3\xbcgge")); // Windows-1252
     EXPECT_EQ(bytesof(QString::fromUtf8("Br\xc3\xbcgge\nB")), "Br\xc3\xbcgge\r\nB");
+    EXPECT_EQ(qt::unbroken("Rome (reign) -480 to ca. 1373, p. x -5"),
+              QString::fromUtf8("Rome (reign)\u00a0-480 to ca.\u00a01373, p. x -5"));
     EXPECT_EQ(qt::withoutmnemonic("Bread & butter"), QString("Bread && butter"));
     EXPECT_EQ(qt::withoutmarkup("a  b"), QString("a  b"));
     EXPECT_EQ(qt::withoutmarkup("<b>a</b>"), QString("<span>&lt;b&gt;a&lt;/b&gt;</span>"));

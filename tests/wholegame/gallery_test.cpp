@@ -1,3 +1,4 @@
+#include "editors/pentry.h"
 #include "frame/services/score.h"
 #include "gallery.h"
 #include "support/gametest.h"
@@ -8,7 +9,11 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QImage>
+#include <QLineEdit>
+#include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -148,7 +153,8 @@ void checkcontrol(const toolkit::Control& control, QWidget& widget)
     if (field) {
         EXPECT_NE(name(*about), control.text) << control.name;
         const bool shared = control.name == "Text3"; // "Size" stands for both numbers
-        EXPECT_TRUE(shared || control.kind == Kind::list || !about->relations(QAccessible::Label).isEmpty()) << control.name;
+        EXPECT_TRUE(shared || control.kind == Kind::list || !about->relations(QAccessible::Label).isEmpty())
+            << control.name;
     }
     if (widget.isVisible()) {
         EXPECT_EQ(about->rect().size(), widget.size()) << control.name;
@@ -183,6 +189,39 @@ TEST_F(GalleryTest, EachControlTellsWhatItIs)
             }
         });
     }
+}
+
+// From any record to the next ones, and to the one that a name means, with the keyboard alone.
+TEST_F(GalleryTest, TheNameListFollowsTheRecord)
+{
+    std::string way;
+    walk(showpeople,
+         {{"PEntry", [&](QWidget& window) {
+               auto& list = *window.findChild<QComboBox*>("Combo1");
+               const auto press = [&](const char* keys) {
+                   for (const char* at = keys; *at != 0; ++at) {
+                       const auto key = *at == 'v' ? Qt::Key_Down : *at == '^' ? Qt::Key_Up : Qt::Key_Return;
+                       QTest::keyClick(window.windowHandle(), key);
+                   }
+                   way += list.currentText().toStdString() + ", ";
+               };
+               const auto type = [&](const char* text) {
+                   list.lineEdit()->selectAll();
+                   QTest::keyClicks(list.lineEdit(), text);
+               };
+               press("v");
+               click(window, "cmdNext");
+               click(window, "cmdNext");
+               list.setFocus();
+               press("^");
+               type("sapp");
+               press("r");
+               type("nobody");
+               press("rr");
+               EXPECT_EQ(toolkit::topscreen()->name, "PEntry");
+           }}});
+    EXPECT_EQ(way, "Hammurabi of Babylon, Solon, Sappho, nobody, ");
+    EXPECT_EQ(curperson, 4);
 }
 
 } // namespace
