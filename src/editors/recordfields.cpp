@@ -69,6 +69,7 @@ void RecordFields::putfields(const Look& look, double inwidth)
         put(look, *this, date.frame, date.framename, "Type",
             {at, datestop + grid::row + grid::gap, half, optionsheight(kinds)});
         date.frame.border = true;
+        date.frame.says = std::string("Type of ") + date.text;
         for (std::size_t i = 0; i < kinds; ++i) {
             put(look, date.frame, option[first + i], "Option" + std::to_string(first + i + 1), kindtexts[i],
                 optionplace(static_cast<std::int64_t>(i), half));

@@ -26,6 +26,7 @@ Showscor::Showscor()
     text1.multiline = true;
     text1.readonly = true;
     text1.says = "Result";
+    label1.names = &text1;
     put(look, frame1, command1, "Command1", "ok", {150, 4200, grid::buttonwidth, grid::buttonheight});
     command1.tooltip = "Click here when  ready to proceed";
     command1.accesskey = 'o';

@@ -218,12 +218,6 @@ bool usertype(Combo& combo, std::string text)
     return true;
 }
 
-bool userreturn(Combo& combo)
-{
-    const std::int16_t line = linemeant(combo.lines, combo.text);
-    return line >= 0 && userpick(combo, line);
-}
-
 bool userstep(Spin& spin, int step)
 {
     if (spin.buddy == nullptr || !reachable(*spin.buddy) || !movefocus(spin)) {
@@ -281,6 +275,10 @@ bool userescape(Screen& screen)
 
 bool userreturn(Screen& screen)
 {
+    if (usable(screen) && screen.focus != nullptr && screen.focus->kind == Kind::combo) {
+        auto& combo = static_cast<Combo&>(*screen.focus);
+        return userpick(combo, linemeant(combo.lines, combo.text));
+    }
     return usable(screen) && screen.defaultbutton != nullptr && userclick(*screen.defaultbutton);
 }
 

@@ -25,12 +25,13 @@ bool userpick(List& list, std::int16_t line); // a click on a line; Space or Ret
 bool userpick(Combo& combo, std::int16_t line);
 bool usertype(TextBox& box, std::string text); // the text as it stands after the typing
 bool usertype(Combo& combo, std::string text);
-bool userreturn(Combo& combo);         // picks the line that the text is, or the only one that it stands in; never more
 bool userstep(Spin& spin, int step);   // +1 or -1
 bool userstep(TextBox& box, int step); // by a key in the field of a spin, which keeps the focus
 bool userresize(Screen& screen, double width, double height, std::int16_t state); // outer, twips
 bool userclose(Screen& screen);                                                   // the close control of the title bar
 bool userescape(Screen& screen); // puts a picked-up bar down, else closes a screen that Escape closes
-bool userreturn(Screen& screen); // presses the default button
+// Return. In a drop-down list it picks the line that the text is, or the only one that holds the text, and nothing
+// more; elsewhere it presses the default button.
+bool userreturn(Screen& screen);
 
 } // namespace brindor::toolkit

@@ -187,13 +187,21 @@ TEST_P(ContractTest, AComboKnowsAPickFromATyping)
     EXPECT_EQ(all.combo.position, 1);
 }
 
-TEST_P(ContractTest, LeavingAComboPicksNothing)
+// Only Return picks what was typed: the same name, or the only one that holds it. It never presses the default button.
+TEST_P(ContractTest, ReturnInAComboPicksTheNameThatIsMeant)
 {
-    EXPECT_EQ(play({[this](Person& person) { person.type(all.combo, "Cid"); },
-                    [this](Person& person) { person.enter(all); }, [this](Person& person) { person.click(all.go); }}),
-              "all: go clicked\n");
-    EXPECT_EQ(all.combo.text, "Cid");
-    EXPECT_EQ(all.combo.position, -1);
+    all.defaultbutton = &all.go;
+    const auto type = [this](const char* text) {
+        return [this, text](Person& person) { person.type(all.combo, text); };
+    };
+    const auto enter = [this](Person& person) { person.enter(all); };
+    const auto empty = [this](Person&) { settext(all.combo, ""); };
+    EXPECT_EQ(play({type("Zz"), [this](Person& person) { person.click(all.go); }, empty, type("a"), enter, empty,
+                    type("bea"), enter, empty, type("i"), enter, type("!"), enter}),
+              "all: go clicked\n"
+              "all: combo line 1 picked\n"
+              "all: combo line 2 picked\n");
+    EXPECT_EQ(all.combo.text, "Cid!");
 }
 
 TEST_P(ContractTest, ABarIsDraggedOntoItsTarget)
@@ -243,12 +251,14 @@ TEST_P(ContractTest, EscapePutsABarDown)
 
 TEST_P(ContractTest, ASpinStepsTheNumberOfItsField)
 {
-    EXPECT_EQ(play({[this](Person& person) { person.type(all.line, "9"); },
-                    [this](Person& person) { person.stepup(all.spin); },
-                    [this](Person& person) { person.stepup(all.spin); }}),
-              "all: line is '9'\n"
-              "all: line left\n"
-              "all: line is '10'\n");
+    EXPECT_EQ(
+        play({[this](Person& person) { person.type(all.line, "8"); },
+              [this](Person& person) { person.pressup(all.line); }, [this](Person& person) { person.stepup(all.spin); },
+              [this](Person& person) { person.stepup(all.spin); }}),
+        "all: line is '8'\n"
+        "all: line is '9'\n"
+        "all: line left\n"
+        "all: line is '10'\n");
 }
 
 TEST_P(ContractTest, WhatCannotBeReachedDoesNothing)

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,9 @@ namespace brindor::tests {
 namespace {
 
 using namespace toolkit::qt;
+
+constexpr QSize room(400, 300);
+constexpr TextRoom textroom{32, 20};
 
 Box leaf(QRect record)
 {
@@ -25,6 +27,26 @@ Box text(QRect record, int needed)
 {
     Box box = leaf(record);
     box.heightfor = [needed](int) { return needed; };
+    return box;
+}
+
+Box hidden(Box box)
+{
+    box.visible = false;
+    return box;
+}
+
+Box onrow(QRect record)
+{
+    Box box = leaf(record);
+    box.fillsrow = true;
+    return box;
+}
+
+Box narrowing(QRect record)
+{
+    Box box = text(record, 20);
+    box.narrows = true;
     return box;
 }
 
@@ -47,87 +69,77 @@ std::string placesof(const std::vector<Box>& boxes)
 {
     std::string places;
     for (const Box& box : boxes) {
-        places += textof(box.placed) + (box.children.empty() ? "" : " (" + placesof(box.children) + ")") + "; ";
+        places += (places.empty() ? "" : "; ") + textof(box.placed) +
+                  (box.children.empty() ? "" : " (" + placesof(box.children) + ")");
     }
     return places;
 }
 
-std::string arranged(std::vector<Box> boxes)
+TEST(LayoutTest, WhereTheBoxesCome)
 {
-    arrange(boxes, {400, 300}, {32, 0});
-    return placesof(boxes);
-}
-
-std::string planned(std::vector<Box> boxes, bool centred = false)
-{
-    arrange(boxes, {400, 300}, {32, 0});
-    const CanvasPlan plan = plancanvas(boxes, {400, 300}, 14, 8, centred);
-    return textof({plan.origin, plan.canvas});
-}
-
-TEST(LayoutTest, ATextThatFitsMovesNothing)
-{
-    EXPECT_EQ(arranged({text({10, 10, 100, 20}, 20), leaf({10, 40, 100, 20})}), "10,10 100x20; 10,40 100x20; ");
-}
-
-TEST(LayoutTest, WhatLiesBelowMovesDown)
-{
-    EXPECT_EQ(arranged({text({10, 10, 100, 20}, 50), leaf({10, 40, 100, 20}), leaf({200, 40, 100, 20}),
-                        text({10, 70, 100, 20}, 30), leaf({10, 90, 100, 20})}),
-              "10,10 100x50; 10,70 100x20; 200,70 100x20; 10,100 100x30; 10,130 100x20; ");
-}
-
-TEST(LayoutTest, OfTwoTextsSideBySideTheHigherCounts)
-{
-    EXPECT_EQ(arranged({text({0, 0, 100, 20}, 50), text({100, 0, 100, 20}, 70), leaf({0, 20, 100, 20})}),
-              "0,0 100x50; 100,0 100x70; 0,70 100x20; ");
-}
-
-TEST(LayoutTest, ABarStaysOnItsRow)
-{
-    EXPECT_EQ(arranged({text({0, 0, 300, 50}, 90), text({0, 60, 300, 50}, 90), leaf({100, 60, 100, 30})}),
-              "0,0 300x90; 0,100 300x90; 100,100 100x30; ");
-}
-
-TEST(LayoutTest, AHiddenTextPushesNothing)
-{
-    Box hidden = text({0, 0, 100, 20}, 80);
-    hidden.visible = false;
-    EXPECT_EQ(arranged({hidden, leaf({0, 20, 100, 20})}), "0,0 100x80; 0,20 100x20; ");
-}
-
-TEST(LayoutTest, AFrameGrowsWithItsContents)
-{
-    EXPECT_EQ(arranged({frame({10, 10, 100, 60}, {text({5, 5, 90, 20}, 40), leaf({5, 30, 90, 20})}),
-                        leaf({10, 80, 100, 20})}),
-              "10,10 100x80 (5,5 90x40; 5,50 90x20; ); 10,100 100x20; ");
-}
-
-TEST(LayoutTest, AFrameCutsNothingOff)
-{
-    std::vector<Box> boxes = {frame({50, 50, 40, 40}, {leaf({-20, -10, 100, 20}), leaf({10, 30, 100, 90})}, false)};
-    arrange(boxes, {400, 300}, {32, 0});
-    EXPECT_EQ(placesof(boxes), "30,40 130x130 (-20,-10 100x20; 10,30 100x90; ); ");
-    EXPECT_EQ(boxes[0].origin, QPoint(20, 10));
+    const struct {
+        const char* what;
+        std::vector<Box> boxes;
+        const char* places;
+    } cases[] = {
+        {"a text that fits moves nothing",
+         {text({10, 10, 100, 20}, 20), leaf({10, 40, 100, 20})},
+         "10,10 100x20; 10,40 100x20"},
+        {"what lies below moves down",
+         {text({10, 10, 100, 20}, 50), leaf({10, 40, 100, 20}), leaf({200, 40, 100, 20}), text({10, 70, 100, 20}, 30),
+          leaf({10, 90, 100, 20})},
+         "10,10 100x50; 10,70 100x20; 200,70 100x20; 10,100 100x30; 10,130 100x20"},
+        {"of two side by side the higher counts",
+         {text({0, 0, 100, 20}, 50), text({100, 0, 100, 20}, 70), leaf({0, 20, 100, 20})},
+         "0,0 100x50; 100,0 100x70; 0,70 100x20"},
+        {"a bar stays on its row and fills it",
+         {text({0, 0, 300, 50}, 90), text({0, 60, 300, 50}, 90), onrow({100, 60, 100, 50})},
+         "0,0 300x90; 0,100 300x90; 100,100 100x90"},
+        {"a hidden text pushes nothing",
+         {hidden(text({0, 0, 100, 20}, 80)), leaf({0, 20, 100, 20})},
+         "0,0 100x80; 0,20 100x20"},
+        {"a text that would reach beyond narrows",
+         {narrowing({10, 0, 900, 20}), narrowing({390, 40, 50, 20})},
+         "10,0 370x20; 390,40 32x20"},
+        {"a frame grows with its contents",
+         {frame({10, 10, 100, 60}, {text({5, 5, 90, 20}, 40), leaf({5, 30, 90, 20})}), leaf({10, 80, 100, 20})},
+         "10,10 100x80 (5,5 90x40; 5,50 90x20); 10,100 100x20"},
+        {"a frame cuts nothing off",
+         {frame({50, 50, 40, 40}, {leaf({-20, -10, 100, 20}), leaf({10, 30, 100, 90})}, false)},
+         "30,40 130x130 (-20,-10 100x20; 10,30 100x90)"},
+    };
+    for (const auto& c : cases) {
+        std::vector<Box> boxes = c.boxes;
+        arrange(boxes, room, textroom);
+        EXPECT_EQ(placesof(boxes), c.places) << c.what;
+    }
 }
 
 TEST(LayoutTest, TheCanvasHoldsWhatMustBeReached)
 {
-    EXPECT_EQ(planned({leaf({0, 0, 400, 300})}), "0,0 400x300");
-    EXPECT_EQ(planned({leaf({0, 0, 401, 200})}), "0,0 409x286");
-    EXPECT_EQ(planned({leaf({0, 0, 380, 310})}), "0,0 386x318");
-    EXPECT_EQ(planned({leaf({0, 0, 390, 310})}), "0,0 398x318"); // the one bar takes the room of the other
-    EXPECT_EQ(planned({leaf({-50, 0, 380, 310})}), "58,0 386x318");
-    EXPECT_EQ(planned({frame({-50, -50, 900, 900}, {leaf({60, 60, 300, 200})}, false)}), "0,0 400x300");
-    EXPECT_EQ(planned({frame({0, 0, 500, 100}, {})}), "0,0 508x286");
-}
-
-TEST(LayoutTest, SmallContentsStandInTheMiddleWhereNothingElsePlacesThem)
-{
-    EXPECT_EQ(planned({leaf({10, 10, 380, 280})}, true), "0,0 400x300");
-    EXPECT_EQ(planned({leaf({10, 10, 180, 380})}, true), "93,0 386x398");
-    EXPECT_EQ(planned({leaf({10, 10, 180, 80})}, true), "100,100 400x300");
-    EXPECT_EQ(planned({leaf({10, 10, 180, 80})}, false), "0,0 400x300");
+    const struct {
+        Box box;
+        bool centred;
+        const char* canvas; // the records' corner and the size
+    } cases[] = {
+        {leaf({0, 0, 400, 300}), false, "0,0 400x300"},
+        {leaf({0, 0, 401, 200}), false, "0,0 409x286"},
+        {leaf({0, 0, 380, 310}), false, "0,0 386x318"},
+        {leaf({0, 0, 390, 310}), false, "0,0 398x318"},
+        {leaf({-50, 0, 380, 310}), false, "58,0 396x318"},
+        {frame({0, 0, 500, 100}, {}), false, "0,0 508x286"},
+        {frame({-50, -50, 900, 900}, {leaf({60, 60, 300, 200})}, false), false, "0,0 400x300"},
+        {leaf({10, 10, 380, 280}), true, "0,0 400x300"},
+        {leaf({10, 10, 180, 380}), true, "93,0 386x398"},
+        {leaf({10, 10, 180, 80}), true, "100,100 400x300"},
+        {leaf({10, 10, 180, 80}), false, "0,0 400x300"},
+    };
+    for (const auto& c : cases) {
+        std::vector<Box> boxes = {c.box};
+        arrange(boxes, room, textroom);
+        const CanvasPlan plan = plancanvas(boxes, room, 14, 8, c.centred);
+        EXPECT_EQ(textof({plan.origin, plan.canvas}), c.canvas) << textof(c.box.record);
+    }
 }
 
 // Whatever the records say: no text is cut, order and gaps from top to bottom are kept, and all can be scrolled to.
@@ -139,8 +151,8 @@ RC_GTEST_PROP(LayoutTest, NothingIsLost, ())
         const QRect record(number(-300, 500), number(-300, 500), number(1, 300), number(1, 100));
         boxes.push_back(number(0, 2) == 0 ? leaf(record) : text(record, number(0, 200)));
     }
-    arrange(boxes, {400, 300}, {32, 0});
-    const CanvasPlan plan = plancanvas(boxes, {400, 300}, 14, 8, number(0, 2) == 0);
+    arrange(boxes, room, textroom);
+    const CanvasPlan plan = plancanvas(boxes, room, 14, 8, number(0, 2) == 0);
     const QRect canvas(QPoint(0, 0), plan.canvas);
     for (const Box& a : boxes) {
         RC_ASSERT(canvas.contains(a.placed.translated(plan.origin)));

@@ -85,6 +85,7 @@ public:
     }
 
     void stepup(Spin& spin) override { userstep(spin, 1); }
+    void pressup(TextBox& box) override { userstep(box, 1); }
     void enter(Screen& screen) override { userreturn(screen); }
     void escape(Screen& screen) override { userescape(screen); }
     void close(Screen& screen) override { userclose(screen); }

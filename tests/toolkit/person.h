@@ -31,6 +31,7 @@ public:
     virtual void press(toolkit::Button& bar) = 0;                         // and holds it
     virtual void letgo(toolkit::Button& bar, toolkit::Control& over) = 0; // over the bar itself or another control
     virtual void stepup(toolkit::Spin& spin) = 0;
+    virtual void pressup(toolkit::TextBox& box) = 0; // the key, in the field
     virtual void enter(toolkit::Screen& screen) = 0;
     virtual void escape(toolkit::Screen& screen) = 0;
     virtual void close(toolkit::Screen& screen) = 0;

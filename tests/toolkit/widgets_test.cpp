@@ -136,25 +136,6 @@ TEST_F(WidgetTest, ALongListOfNamesFillsQuicklyAndIsSearchedByTyping)
     EXPECT_EQ(shelf.picked, "Zenobia 200 ");
 }
 
-TEST_F(WidgetTest, ABarTellsThatItIsPickedUpAndLiesOnTop)
-{
-    std::array<Button, 2> bars;
-    for (std::size_t i = 0; i < bars.size(); ++i) {
-        add(shelf, bars[i], indexed("bar", static_cast<int>(i)));
-        bars[i].bar = true;
-        bars[i].place = {4500, 4500, 3000, 480};
-    }
-    showwhile(shelf, [this, &bars] {
-        const auto ontop = [this] { return windowof(shelf).childAt(310, 310)->objectName(); };
-        EXPECT_EQ(ontop(), "bar(1)");
-        startdrag(bars[0]);
-        EXPECT_EQ(widgetof(bars[0]).accessibleDescription(), "picked up");
-        EXPECT_EQ(ontop(), "bar(0)");
-        enddrag(bars[0]);
-        EXPECT_EQ(widgetof(bars[0]).accessibleDescription(), "");
-    });
-}
-
 TEST_F(WidgetTest, TheMachinesOwnViewerComesFirst)
 {
     const ScratchFolder folder;
@@ -176,6 +157,8 @@ TEST(TextTest, BytesAreShownAndTypedTextComesBack)
     EXPECT_EQ(shown("Br\xc3\xbcgge"), QString::fromUtf8("Br\xc3\xbcgge"));
     EXPECT_EQ(shown("Br\xfcgge"), QString::fromUtf8("Br\xc3\xbcgge")); // Windows-1252
     EXPECT_EQ(bytesof(QString::fromUtf8("Br\xc3\xbcgge\nB")), "Br\xc3\xbcgge\r\nB");
+    EXPECT_EQ(qt::unbroken("Rome (reign) -480 to ca. 1373, p. x -5"),
+              QString::fromUtf8("Rome (reign)\u00a0-480 to ca.\u00a01373, p. x -5"));
     EXPECT_EQ(qt::withoutmnemonic("Bread & butter"), QString("Bread && butter"));
     EXPECT_EQ(qt::withoutmarkup("a  b"), QString("a  b"));
     EXPECT_EQ(qt::withoutmarkup("<b>a</b>"), QString("<span>&lt;b&gt;a&lt;/b&gt;</span>"));

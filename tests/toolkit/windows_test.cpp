@@ -3,7 +3,6 @@
 #include "toolkit/user.h"
 #include "windows.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QMessageBox>
 #include <QScrollArea>
@@ -12,7 +11,6 @@
 #include <QTimer>
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include <array>
 #include <string>
@@ -79,22 +77,6 @@ protected:
     Note note;
 };
 
-TEST_F(WindowTest, WindowsAndWidgetsCarryTheNamesOfTheRecords)
-{
-    note.heading.says = "What this is about";
-    showwhile(note, [this] {
-        EXPECT_EQ(windowof(note).objectName(), "note");
-        for (const Control* control : note.controls) {
-            EXPECT_EQ(widgetof(*control).objectName(), QString::fromStdString(control->name));
-        }
-        EXPECT_EQ(widgetof(note.heading).accessibleName(), "What this is about");
-        EXPECT_EQ(widgetof(note.box).accessibleName(), "Kinds");
-        QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&widgetof(note.ok));
-        EXPECT_EQ(button->text(QAccessible::Name), "Bread & butter");
-        EXPECT_EQ(button->role(), QAccessible::Button);
-    });
-}
-
 TEST_F(WindowTest, ATextGrowsAndPushesWhatLiesBelow)
 {
     showwhile(note, [this] {
@@ -152,44 +134,6 @@ TEST_F(WindowTest, APictureIsFittedWhereNothingScrolls)
         const QSize seen = windowof(note).size();
         EXPECT_EQ(widgetof(picture).geometry(), QRect(10, 20, seen.width() - 10, seen.height() - 20));
     });
-}
-
-TEST_F(WindowTest, AWindowTooLargeForItsContentsCentresThem)
-{
-    showwhile(note, [this] {
-        resizeto(note, 9000, 6000);
-        settle();
-        const QRect box = widgetof(note.box).geometry();
-        EXPECT_NEAR(box.center().x(), windowof(note).width() / 2, 1);
-    });
-}
-
-RC_GTEST_PROP(WindowSizeTest, NothingDriftsOverRoundTrips, ())
-{
-    QtHost host;
-    const double width = *rc::gen::inRange(3000, 10000);
-    const double height = *rc::gen::inRange(3000, 10000);
-    double storedwidth = width;
-    double storedheight = height;
-    for (int trip = 0; trip < 3; ++trip) {
-        Note note;
-        note.width = storedwidth;
-        note.height = storedheight;
-        int resizes = 0;
-        note.resize = [&] { ++resizes; };
-        showwhile(note, [&] {
-            const QSize size = windowof(note).size();
-            windowof(note).resize(size + QSize(7, 11));
-            settle();
-            windowof(note).resize(size);
-            settle();
-        });
-        RC_ASSERT(resizes == 3);
-        storedwidth = note.width;
-        storedheight = note.height;
-    }
-    RC_ASSERT(storedwidth == width);
-    RC_ASSERT(storedheight == height);
 }
 
 TEST_F(WindowTest, StatesAreShownAndTold)

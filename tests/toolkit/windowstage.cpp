@@ -80,6 +80,7 @@ public:
     }
 
     void stepup(Spin& spin) override { clickat(spin, QPoint(4, 4)); }
+    void pressup(TextBox& box) override { key(box, Qt::Key_Up); }
     void enter(Screen& screen) override { QTest::keyClick(windowof(screen).windowHandle(), Qt::Key_Return); }
     void escape(Screen& screen) override { QTest::keyClick(windowof(screen).windowHandle(), Qt::Key_Escape); }
     void close(Screen& screen) override { windowof(screen).close(); }

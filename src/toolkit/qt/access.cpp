@@ -70,18 +70,20 @@ private:
     QComboBox& combo_;
 };
 
-class OptionAccess : public QAccessibleWidget {
+class PressAccess : public QAccessibleWidget {
 public:
-    OptionAccess(QAbstractButton* option, Pressable& pressable)
-        : QAccessibleWidget(option, QAccessible::RadioButton), option_(*option), pressable_(pressable)
+    PressAccess(QWidget* widget, Pressable& pressable)
+        : QAccessibleWidget(widget, pressable.accessrole()), pressable_(pressable)
     {
     }
 
     QAccessible::State state() const override
     {
         QAccessible::State result = QAccessibleWidget::state();
-        result.checkable = true;
-        result.checked = option_.isChecked();
+        if (const auto* option = qobject_cast<const QAbstractButton*>(widget())) {
+            result.checkable = true;
+            result.checked = option->isChecked();
+        }
         return result;
     }
 
@@ -97,7 +99,6 @@ public:
     }
 
 private:
-    QAbstractButton& option_;
     Pressable& pressable_;
 };
 
@@ -115,8 +116,9 @@ QAccessibleInterface* makeaccess(const QString& /*classname*/, QObject* object)
     if (auto* combo = qobject_cast<QComboBox*>(object)) {
         return new ComboAccess(combo);
     }
-    if (auto* pressable = dynamic_cast<Pressable*>(object)) {
-        return new OptionAccess(static_cast<QAbstractButton*>(object), *pressable);
+    auto* pressable = dynamic_cast<Pressable*>(object);
+    if (pressable != nullptr && pressable->accessrole() != QAccessible::NoRole) {
+        return new PressAccess(static_cast<QWidget*>(object), *pressable);
     }
     return nullptr;
 }
@@ -151,12 +153,12 @@ void telldrops(ScreenWindow& window, const Screen& screen)
             const Button*& held = holds[row];
             held = held == nullptr || liesabove(widget, window.widgetof(*held)) ? &bar : held;
         }
-        widget.setAccessibleDescription(text + shown(bar.tooltip));
+        widget.setAccessibleDescription((text + shown(bar.tooltip)).trimmed());
     }
     for (const auto& [row, bar] : holds) {
         const QString text = bar == nullptr ? QStringLiteral("Empty. ")
                                             : QLatin1String("Holds ") + shown(bar->text) + QLatin1String(". ");
-        window.widgetof(*row).setAccessibleDescription(text + shown(row->tooltip));
+        window.widgetof(*row).setAccessibleDescription((text + shown(row->tooltip)).trimmed());
     }
 }
 

@@ -2,14 +2,17 @@
 
 #include "toolkit/controls.h"
 
+#include <QAccessible>
+
 namespace brindor::toolkit::qt {
 
 class ScreenWindow;
 
-// A widget on which an assistive tool's "press" does something else than a click.
+// A widget that an assistive tool can press though Qt would not know how, and what such a tool calls it.
 class Pressable {
 public:
     virtual void pressfor() = 0;
+    virtual QAccessible::Role accessrole() const = 0; // NoRole for one that does nothing and is left to Qt
 
 protected:
     ~Pressable() = default;

@@ -107,7 +107,7 @@ private:
         lighter.setDevicePixelRatio(picture.devicePixelRatio());
         lighter.fill(Qt::transparent);
         QPainter painter(&lighter);
-        painter.setOpacity(0.8);
+        painter.setOpacity(0.9);
         painter.drawPixmap(0, 0, picture);
         painter.end();
         ghost_->setPixmap(lighter);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/qt/access.h"
 #include "toolkit/qt/keys.h"
 
 #include <QLabel>
@@ -8,9 +9,16 @@
 namespace brindor::toolkit::qt {
 
 // A label that a person can click, with the mouse or with Space and Return, as long as something listens.
-class ClickLabel : public QLabel {
+class ClickLabel : public QLabel, public Pressable {
 public:
     using QLabel::QLabel;
+
+    void pressfor() override
+    {
+        if (listens()) {
+            clicked();
+        }
+    }
 
 protected:
     virtual bool listens() const = 0;

@@ -31,7 +31,7 @@ public:
         // Leaving the field is no pick, even if what stands in it is the text of a line.
         disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
         disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
-        connect(lineEdit(), &QLineEdit::returnPressed, this, [this] { userreturn(combo_); });
+        connect(lineEdit(), &QLineEdit::returnPressed, this, [this] { userreturn(*combo_.screen); });
         setModel(lines_);
         auto* completer = new QCompleter(lines_, this);
         completer->setCaseSensitivity(Qt::CaseInsensitive);
@@ -68,7 +68,7 @@ public:
 protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); } // scrolls the window, picks nothing
 
-    // Return is never the window's.
+    // Return has been told of by the field.
     void keyPressEvent(QKeyEvent* event) override
     {
         QComboBox::keyPressEvent(event);

@@ -43,6 +43,8 @@ public:
         return text == 0 ? 0 : text + margins.top() + margins.bottom();
     }
 
+    QAccessible::Role accessrole() const override { return listens() ? QAccessible::StaticText : QAccessible::NoRole; }
+
     void highlight(bool on)
     {
         highlighted_ = on;

@@ -57,6 +57,8 @@ public:
     }
 
     // What "press" of an assistive tool does: the same as a press of the mouse where the screen listens to that.
+    QAccessible::Role accessrole() const override { return QAccessible::RadioButton; }
+
     void pressfor() override
     {
         if (option_.press) {

@@ -21,6 +21,7 @@ public:
     }
 
     void refresh() {}
+    QAccessible::Role accessrole() const override { return QAccessible::Graphic; }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override

@@ -94,7 +94,7 @@ TEST_F(Settings, MissingShortAndBadValues)
     EXPECT_TRUE(host.messages.empty());
     readsettings();
     EXPECT_EQ(afteratrip("1 1 5 1\n0 8 8 8\nT\n0 9 -4 0 0\n99999999999 0 0 0 0\n5 99999 0 0 0\n").substr(21, 72),
-              "0 2 0 0 0\r\n2147483647 0 0 0 0\r\n1500 32767 1500 1500 0\r\n12000 12000 12000");
+              "0 2 0 0 0\r\n2147483647 0 0 0 0\r\n1500 32767 1500 1500 0\r\n12000 12000 8400 ");
 }
 
 TEST_F(Settings, TheDefaultPeriodIsTheFirstWithAFile)
