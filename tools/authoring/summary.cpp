@@ -3,6 +3,7 @@
 #include "authoring/commands.h"
 #include "authoring/folder.h"
 #include "authoring/table.h"
+#include "authoring/writing.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
@@ -56,22 +57,32 @@ std::optional<Table> readside(const std::string& file, std::span<const Column> c
     return isregularfile(file) ? readtable(file, columns, findings) : std::nullopt;
 }
 
+// Of the folder above the timelines' own.
 Sides readsides(const std::string& folder, Findings& findings)
 {
     Sides sides;
-    if (const auto table = readside(inside(folder, "../regions.csv"), regioncolumns, findings)) {
+    if (const auto table = readside(inside(folder, "regions.csv"), regioncolumns, findings)) {
         sides.regions.emplace();
         for (const CsvRecord& record : table->records) {
             (*sides.regions)[fieldof(table->source, record, "name")] = fieldof(table->source, record, "region");
         }
     }
-    if (const auto table = readside(inside(folder, "../rulers.csv"), rulercolumns, findings)) {
+    if (const auto table = readside(inside(folder, "rulers.csv"), rulercolumns, findings)) {
         sides.rulers.emplace();
         for (const CsvRecord& record : table->records) {
             sides.rulers->insert(fieldof(table->source, record, "occupation"));
         }
     }
     return sides;
+}
+
+std::string folderabove(std::string folder)
+{
+    while (folder.size() > 1 && folder.ends_with('/')) {
+        folder.pop_back();
+    }
+    const bool named = folder != "." && !folder.ends_with("..");
+    return named ? folderof(folder) : inside(folder, "..");
 }
 
 template <class Form>
@@ -116,10 +127,9 @@ void countrecords(const Forms& forms, Balance& balance)
     balance.sources = given("source") ? std::optional(sources) : std::nullopt;
 }
 
-Balance balanceof(const std::string& folder, Findings& findings)
+Balance balanceof(const std::string& folder, const Sides& sides, Findings& findings)
 {
     const Forms forms = readfolder(folder, findings);
-    const Sides sides = readsides(folder, findings);
     Balance balance;
     balance.title = titleof(folder);
     balance.people = static_cast<std::int64_t>(forms.people.size());
@@ -231,9 +241,13 @@ private:
 std::string summarytable(const std::vector<std::string>& folders, Findings& findings)
 {
     std::vector<Balance> balances;
-    balances.reserve(folders.size());
+    std::map<std::string, Sides> sides; // by the folder that they lie in
     for (const std::string& folder : folders) {
-        balances.push_back(balanceof(folder, findings));
+        const std::string above = folderabove(folder);
+        if (!sides.contains(above)) {
+            sides.emplace(above, readsides(above, findings));
+        }
+        balances.push_back(balanceof(folder, sides.at(above), findings));
     }
     Columns table(balances);
     table.row("People", [](const Balance& b) { return numbertext(b.people); });
