@@ -1,6 +1,7 @@
 # Puts what the build has made into the game folder. A file that stands there and is not the one that the last build
 # put there belongs to somebody else and stays as it is.
 # cmake -DMADE=made -DGAME=game -DLIST=placed.txt "-DNEWER=made/Modern.bd3;modern-maps.stamp" -P place.cmake
+cmake_minimum_required(VERSION 3.25)
 set(lines)
 if(EXISTS ${LIST})
   file(STRINGS ${LIST} lines)
