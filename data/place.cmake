@@ -2,7 +2,6 @@
 # put there belongs to somebody else and stays as it is.
 # cmake -DMADE=made -DGAME=game -DLIST=placed.txt "-DNEWER=made/Modern.bd3;modern-maps.stamp" -P place.cmake
 cmake_minimum_required(VERSION 3.25)
-
 set(lines)
 if(EXISTS ${LIST})
   file(STRINGS ${LIST} lines)
@@ -39,8 +38,7 @@ foreach(name IN LISTS names)
   if(there STREQUAL none OR there STREQUAL "${hash_${name}}")
     if(NOT there STREQUAL hash)
       get_filename_component(folder ${GAME}/${name} DIRECTORY)
-      file(MAKE_DIRECTORY ${folder})
-      file(COPY_FILE ${MADE}/${name} ${GAME}/${name})
+      file(COPY ${MADE}/${name} DESTINATION ${folder})
     endif()
   elseif(NOT there STREQUAL hash)
     message("${GAME}/${name} is not the build's own and was left alone; remove it for the one of the game.")

@@ -1,7 +1,6 @@
 # Rewrites the tables of docs/timelines.md, each between its two marks.
 # cmake -DTOOL=timelinemaker -DDOCUMENT=docs/timelines.md "-DFOLDERS=ancient;classic" -P timelinesdoc.cmake
 cmake_minimum_required(VERSION 3.25)
-
 file(READ ${DOCUMENT} text)
 
 function(renew mark)
