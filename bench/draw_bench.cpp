@@ -28,8 +28,8 @@ void drawquestion()
 void Shipped(benchmark::State& state)
 {
     curperiod = static_cast<std::int16_t>(state.range(0));
-    if (!filltimeline(BRINDOR_GAME "/" + periodfile(curperiod))) {
-        state.SkipWithError("no timeline: build the game first");
+    if (!filltimeline(periodfile(curperiod))) {
+        state.SkipWithError("no timeline in this folder: run scripts/bench");
         return;
     }
     clearmarks();
@@ -104,7 +104,7 @@ BENCHMARK(Shipped)
 BENCHMARK(Sparse)->ArgsProduct({alltypes})->Unit(benchmark::kMicrosecond);
 BENCHMARK(Worn)->ArgsProduct({alltypes})->Unit(benchmark::kMicrosecond);
 BENCHMARK(Layered)->ArgsProduct({alltypes})->Unit(benchmark::kMicrosecond);
-BENCHMARK(Choice)->Arg(1000)->Arg(32767)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Choice)->Arg(mostrecords)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

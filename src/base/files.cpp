@@ -1,6 +1,7 @@
 #include "base/files.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
@@ -96,6 +97,8 @@ Result<Done> closefile(OpenFile& file)
 
 Result<Done> writeandclose(const std::string& path, int flags, std::string_view text, bool flush)
 {
+    // Where a file may only grow to a limit, the write that goes beyond it fails; by default it would end the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     Result<OpenFile> file = openregular(path, flags);
     if (!file) {
         return {std::nullopt, file.reason};

@@ -47,7 +47,7 @@ Result<Done> appendtofile(const std::string& path, std::string_view text);
 Result<Done> emptyfile(const std::string& path);
 
 // Puts `content` in the file's place in one step: a temporary file beside it, flushed to the disk, then renamed.
-// On a failure the old file stands untouched and no temporary file is left.
+// On a failure the old file stands untouched and no temporary file is left; one that a kill left is taken over.
 Result<Done> replacefile(const std::string& path, std::string_view content);
 
 bool isregularfile(const std::string& path);

@@ -43,7 +43,6 @@ Showscor::Showscor()
 
 void Showscor::scoreCaption()
 {
-    toolkit::load(*this);
     const PlayerRec& player = players[static_cast<std::size_t>(curplayer)];
     settext(label2, "Current score: " + numbertext(player.right) + " of " + numbertext(player.asked) + "  (" +
                         numbertext(player.percent) + "%)");

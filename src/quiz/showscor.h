@@ -9,7 +9,7 @@ namespace brindor {
 struct Showscor : toolkit::Screen {
     Showscor();
 
-    void scoreCaption(); // writes the score line of the player in turn
+    void scoreCaption(); // writes the score line of the player in turn; the screen is loaded before
 
     toolkit::Frame frame1;
     toolkit::Label label1;  // the results heading

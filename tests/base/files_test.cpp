@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace brindor {
@@ -68,6 +69,26 @@ TEST_F(Files, AFailedReplaceLeavesTheOldFile)
         failures += succeeded ? 0 : 1;
     }
     EXPECT_EQ(failures, 5); // open, write, flush, close, rename
+}
+
+// The system sends a signal with the refused write, which would end the program.
+TEST_F(Files, ALimitOnTheSizeOfFilesIsAFailureLikeOthers)
+{
+    tests::writefile("a", "old");
+    tests::writefile("a.new", std::string(100, 'x')); // as a kill leaves it
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit low{50, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &low), 0);
+    const Result<Done> large = replacefile("a", std::string(60, 'y'));
+    const std::string then = tests::contentof("a");
+    const Result<Done> small = replacefile("a", "new");
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    EXPECT_EQ(large.reason, "File too large");
+    EXPECT_EQ(then, "old");
+    EXPECT_TRUE(small);
+    EXPECT_EQ(tests::contentof("a"), "new");
+    EXPECT_FALSE(fs::exists("a.new"));
 }
 
 } // namespace brindor

@@ -1,5 +1,6 @@
 #include "frame/game.h"
 
+#include "base/files.h"
 #include "frame/mainscreen.h"
 #include "frame/services/score.h"
 #include "frame/services/settings.h"
@@ -176,6 +177,7 @@ TEST_F(MainScreenTest, StartsInOrderAndEndsWithTheSettings)
     tests::settimeline({}, {});
     std::filesystem::current_path("/");
     run([this](MainScreen& s) {
+        EXPECT_LE(faultplan.calls, 15); // of the disk: settings looked for, log emptied, one timeline read
         EXPECT_EQ(s.caption, "Brindor History Trivia Game");
         EXPECT_EQ(s.label1.text, "Brindor History Trivia Game");
         EXPECT_EQ(s.label2.text, "Version 1.03");
