@@ -2,6 +2,7 @@
 #include "toolkit/qt/screenwindow.h"
 #include "toolkit/user.h"
 
+#include <QEvent>
 #include <QScreen>
 #include <QScrollArea>
 
