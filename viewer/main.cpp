@@ -1,5 +1,6 @@
 #include "base/files.h"
 #include "toolkit/qt/application.h"
+#include "toolkit/qt/displayzoom.h"
 #include "toolkit/qt/qttext.h"
 
 #include <QCloseEvent>
@@ -7,6 +8,7 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QScreen>
 
 #include <cstddef>
 #include <string>
@@ -33,6 +35,10 @@ protected:
     {
         if (event->key() == Qt::Key_Escape) {
             close();
+        } else if (event->matches(QKeySequence::ZoomIn)) {
+            zoomIn();
+        } else if (event->matches(QKeySequence::ZoomOut)) {
+            zoomOut();
         } else {
             QPlainTextEdit::keyPressEvent(event);
         }
@@ -63,7 +69,8 @@ void view(const std::string& file)
     viewer.setReadOnly(true);
     viewer.setFrameShape(QFrame::NoFrame);
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont); // the text has columns
-    font.setPointSizeF(textpoints);
+    const QSize display = viewer.screen()->availableSize();
+    font.setPointSizeF(textpoints * brindor::toolkit::qt::startzoom(display).factor());
     viewer.setFont(font);
     viewer.setPlainText(contentof(file));
     viewer.document()->setDocumentMargin(textmargin);

@@ -59,7 +59,7 @@ void fitcontents(Screen& screen, double margin);
 void messagebox(std::string text, std::string_view title = applicationtitle);
 void announce(std::string text); // a message in large letters
 bool askyesno(std::string text, std::string_view title);
-Size displaysize();
+Size displaysize(); // what windows may take of the display
 Size framesize(); // what a window's frame and title bar add to its inside; 0 while not known
 LoadedPicture loadpicture(const std::string& file);
 void startviewer(const std::string& file);

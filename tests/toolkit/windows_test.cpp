@@ -105,24 +105,6 @@ TEST_F(WindowTest, ATextGrowsAndPushesWhatLiesBelow)
     });
 }
 
-TEST_F(WindowTest, BarsAppearOnlyWhereContentsDoNotFit)
-{
-    note.resize = [] {};
-    showwhile(note, [this] {
-        EXPECT_FALSE(scrolls(note));
-        place(note.ok, {-900, 2160, 1440, 480});
-        settle();
-        EXPECT_FALSE(scrolls(note)); // it still fits, moved to where it can be seen
-        EXPECT_GE(widgetof(note.ok).mapTo(&windowof(note), QPoint()).x(), 0);
-        place(note.ok, {240, 9000, 1440, 480});
-        settle();
-        EXPECT_TRUE(scrolls(note));
-        hide(note.ok);
-        settle();
-        EXPECT_FALSE(scrolls(note));
-    });
-}
-
 TEST_F(WindowTest, APictureIsFittedWhereNothingScrolls)
 {
     Picture picture;

@@ -4,9 +4,10 @@
 #include "toolkit/qt/qthost.h"
 #include "windows.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -106,6 +107,19 @@ TEST_F(ZoomedWindow, KeysZoomPlacesFontsAndWindowAlike)
         EXPECT_EQ(sheet.width, 6000);
         EXPECT_EQ(sheet.resizes, 1);
     });
+}
+
+TEST_F(ZoomedWindow, AnOpenMessageFollows)
+{
+    QTimer::singleShot(20, [] {
+        QWidget* box = QApplication::activeModalWidget();
+        const QSize before = box->size();
+        QTest::keyClick(box->windowHandle(), Qt::Key_Plus, Qt::ControlModifier);
+        EXPECT_NEAR(box->width(), before.width() * 1.1, 6);
+        EXPECT_NEAR(box->height(), before.height() * 1.1, 6);
+        box->close();
+    });
+    messagebox("A text of some length that says what is to be known.");
 }
 
 TEST_F(ZoomedWindow, NoWindowIsLargerThanTheDisplayAndItsRecordStaysAsItIs)

@@ -2,9 +2,10 @@
 
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/qttext.h"
+#include "toolkit/qt/windowsize.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QMessageBox>
@@ -48,15 +49,15 @@ public:
         fit();
     }
 
-protected:
-    void changeEvent(QEvent* event) override
+    // The zoom has changed; the box stays round its middle.
+    void refit()
     {
-        QMessageBox::changeEvent(event);
-        if (event->type() == QEvent::ApplicationFontChange) {
-            fit();
-            QCoreApplication::sendPostedEvents(this, QEvent::LayoutRequest);
-            adjustSize();
-        }
+        const QPoint middle = geometry().center();
+        fit();
+        QCoreApplication::sendPostedEvents(this, QEvent::LayoutRequest);
+        adjustSize();
+        const QMargins frame = framemargins();
+        move(middle - rect().center() - QPoint(frame.left(), frame.top()));
     }
 
 private:
@@ -89,6 +90,15 @@ bool showmessage(const Message& message, QWidget* window)
     MessageBox box(message, window);
     const int answer = box.exec();
     return answer == QMessageBox::Ok || answer == QMessageBox::Yes;
+}
+
+void rezoommessages()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* box = dynamic_cast<MessageBox*>(widget)) {
+            box->refit();
+        }
+    }
 }
 
 } // namespace brindor::toolkit::qt

@@ -10,4 +10,7 @@ namespace brindor::toolkit::qt {
 // the close control mean No.
 bool showmessage(const Message& message, QWidget* window);
 
+// The base zoom has changed: a message that is open follows it.
+void rezoommessages();
+
 } // namespace brindor::toolkit::qt

@@ -202,6 +202,7 @@ void QtHost::usezoom(qt::Zoom zoom)
     for (const auto& window : windows_) {
         window->rezoom();
     }
+    qt::rezoommessages();
 }
 
 // The calls that opened the screens return one after the other, and the program ends as if a person had closed them.
