@@ -88,21 +88,6 @@ bool LineReader::readon(std::size_t& end, std::string_view expected)
     return true;
 }
 
-std::optional<std::string_view> LineReader::line(std::string_view expected)
-{
-    std::size_t end = rest_.find('\n');
-    if (end == std::string_view::npos && !readon(end, expected)) {
-        return std::nullopt;
-    }
-    ++lines_;
-    std::string_view text = rest_.substr(0, end);
-    rest_.remove_prefix(std::min(end + 1, rest_.size()));
-    if (text.ends_with('\r')) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
 bool LineReader::numbers(std::span<std::int16_t> numbers, std::string_view expected)
 {
     std::size_t found = 0;

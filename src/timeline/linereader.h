@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/result.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -21,7 +22,20 @@ public:
 
     // The whole next line without its end, good until the next call; nothing on a failure. `expected` says in the
     // failure text what was looked for.
-    std::optional<std::string_view> line(std::string_view expected);
+    std::optional<std::string_view> line(std::string_view expected)
+    {
+        std::size_t end = rest_.find('\n');
+        if (end == std::string_view::npos && !readon(end, expected)) {
+            return std::nullopt;
+        }
+        ++lines_;
+        std::string_view text(rest_.data(), end);
+        rest_.remove_prefix(std::min(end + 1, rest_.size()));
+        if (text.ends_with('\r')) {
+            text.remove_suffix(1);
+        }
+        return text;
+    }
 
     // The next whole numbers of 16 bits, separated by commas, blanks or line ends, into `numbers`. Drops the rest of
     // the line on which the last of them stands. False on a failure.
