@@ -22,7 +22,7 @@ const Look look{{255, 255, 192}, {255, 224, 128}, {Face::plain, 11, false}};
 constexpr double editfontsize = 8;
 
 constexpr double inwidth = 8640;
-constexpr double listheight = 3480; // seven lines, in two columns
+constexpr double listheight = 120 + (lasttype + 1) / 2 * 480.0; // all kinds of question, in two columns
 constexpr double loggingwidth = 4920;
 constexpr double fieldwidth = 600;
 constexpr double spinwidth = 720; // the two halves side by side
