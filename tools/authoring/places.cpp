@@ -13,6 +13,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace brindor::authoring {
 
@@ -39,9 +40,8 @@ bool issea(const std::string& place)
     });
 }
 
-void checksea(const EventForm& form, const Position& position, const Coastlines& coastlines, Notes& notes)
+void checksea(const EventForm& form, double distance, Notes& notes)
 {
-    const double distance = landdistance(coastlines, position);
     if (distance > nearland && !issea(form.place)) {
         notes.warning(form, "latitude",
                       form.place + " lies in the sea, " + kilometres(distance) +
@@ -59,13 +59,18 @@ void checkplaces(const Forms& forms, Findings& findings)
         notes.add(Severity::error, 0, coastlines.reason);
         return;
     }
+    std::map<std::pair<double, double>, double> distances; // from land
     std::map<std::string, const EventForm*> firsts;
     for (const EventForm& form : forms.events) {
         if (!hasplace(form)) {
             continue;
         }
         const Position position{*form.latitude, *form.longitude};
-        checksea(form, position, *coastlines.value, notes);
+        const auto [known, unseen] = distances.try_emplace({position.latitude, position.longitude}, 0.0);
+        if (unseen) {
+            known->second = landdistance(*coastlines.value, position);
+        }
+        checksea(form, known->second, notes);
         const auto [place, fresh] = firsts.emplace(folded(form.place), &form);
         const EventForm& first = *place->second;
         const double apart = fresh ? 0 : distance(position, {*first.latitude, *first.longitude});

@@ -148,21 +148,27 @@ double distance(const Position& a, const Position& b)
     return earthradius * std::acos(std::clamp(dot(vectorof(a), vectorof(b)), -1.0, 1.0));
 }
 
-// The stretch between two points of a ring is short, so the plane that touches the globe at the position will do.
+// The stretch between two points of a ring is short, so the plane that touches the globe at the position will do. Most
+// rings are passed over by the cap that holds them.
 double landdistance(const Coastlines& coastlines, const Position& position)
 {
-    const auto holding = std::count_if(coastlines.begin(), coastlines.end(),
-                                       [&position](const Ring& ring) { return holds(ring, position); });
-    if (holding % 2 != 0) {
+    const Vector point = vectorof(position);
+    std::vector<double> beyond; // radians from the caps; below 0 inside
+    bool onland = false;
+    for (const Ring& ring : coastlines) {
+        beyond.push_back(std::acos(std::clamp(dot(point, ring.middle), -1.0, 1.0)) - ring.radius);
+        onland = onland != (beyond.back() <= 0 && holds(ring, position));
+    }
+    if (onland) {
         return 0;
     }
     const double narrow = std::cos(position.latitude * degree);
     double nearest = 180;
-    for (const Ring& ring : coastlines) {
-        const std::size_t count = ring.positions.size();
-        for (std::size_t i = 0; i < count; ++i) {
-            const Position& from = ring.positions[i];
-            const Position& to = ring.positions[(i + 1) % count];
+    for (std::size_t r = 0; r < coastlines.size(); ++r) {
+        const std::vector<Position>& positions = coastlines[r].positions;
+        for (std::size_t i = 0; i < positions.size() && beyond[r] < nearest * degree; ++i) {
+            const Position& from = positions[i];
+            const Position& to = positions[(i + 1) % positions.size()];
             const double x = wrapped(from.longitude - position.longitude) * narrow;
             const double y = from.latitude - position.latitude;
             const double dx = wrapped(to.longitude - from.longitude) * narrow;
