@@ -60,12 +60,11 @@ TEST_F(Summary, TellsWhatIsWrong)
     EXPECT_NE(summarytable({"new"}, findings)
                   .find("\n| People of | not given |\n| Women | 0 (0.0%) |\n| Rulers | not given |"),
               std::string::npos);
-    EXPECT_EQ(
-        report(findings),
-        "regions.csv:1: error: the column region is missing; found: name\n"
-        "new/people.csv:2: error: column 7 (fame): \"6\" is no fame; write 1 (everyone has heard of it) to 5 (specialists)\n"
-        "new/people.csv:2: error: column 6 (woman): \"maybe\" is neither yes nor no\n"
-        "new/events.csv: error: cannot be read: No such file or directory\n");
+    EXPECT_EQ(report(findings), "regions.csv:1: error: the column region is missing; found: name\n"
+                                "new/people.csv:2: error: column 7 (fame): \"6\" is no fame; write 1 (everyone has "
+                                "heard of it) to 5 (specialists)\n"
+                                "new/people.csv:2: error: column 6 (woman): \"maybe\" is neither yes nor no\n"
+                                "new/events.csv: error: cannot be read: No such file or directory\n");
 }
 
 } // namespace brindor::authoring

@@ -173,7 +173,8 @@ Report exporttimeline(const std::string& file, const std::string& folder, bool o
 
 Report newtimeline(const std::string& folder, char separator)
 {
-    // A spreadsheet that separates by semicolons takes 24.05 for a date in May. The examples hold no comma of their own.
+    // A spreadsheet that separates by semicolons takes 24.05 for a date in May. The examples hold no comma of their
+    // own.
     const auto separated = [separator](std::string text) {
         if (separator != ',') {
             std::replace(text.begin(), text.end(), ',', separator);
