@@ -20,8 +20,8 @@ std::string picturenamefault(std::string_view name);
 std::string relativenamefault(std::string_view name);
 
 // The path of a picture that lies in a folder or below it; the current folder where `folder` is empty. Fails for a name
-// with a fault, a file that is not there, and one that a link puts elsewhere; the links of a player's folder may lead into
-// the installed game.
+// with a fault, a file that is not there, and one that a link puts elsewhere; the links of a player's folder may lead
+// into the installed game.
 Result<std::string> picturefile(const std::string& folder, const std::string& name);
 
 // Whether the content begins as a PNG, JPEG, BMP or GIF file does.

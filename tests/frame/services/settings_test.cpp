@@ -69,8 +69,7 @@ TEST_F(Settings, FormsThatReadAlike)
 
 TEST_F(Settings, MissingShortAndBadValues)
 {
-    const std::string first =
-        "0 0 0 0 0\r\n0 0 0 0 0\r\n9000 9000 5400 9000 9000\r\n12000 12000 8400 12000 12000\r\n";
+    const std::string first = "0 0 0 0 0\r\n0 0 0 0 0\r\n9000 9000 5400 9000 9000\r\n12000 12000 8400 12000 12000\r\n";
     const std::string rows = "0 0 0 0 0\r\n0 0 0 0 0\r\n9000 9000 9000 9000 9000\r\n12000 12000 12000 12000 12000\r\n";
     std::string types = "0\r\n";
     for (int i = 0; i < 13; ++i) {
