@@ -184,6 +184,11 @@ std::string yearin(std::string_view text)
     return {};
 }
 
+std::string inquotes(std::string_view text)
+{
+    return '"' + std::string(text) + '"';
+}
+
 std::string slug(std::string_view text)
 {
     std::string result;
