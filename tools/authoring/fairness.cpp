@@ -22,7 +22,6 @@ namespace brindor::authoring {
 namespace {
 
 constexpr std::int64_t questionsofagame = 50; // then the marks are cleared, as a new choice of a period does
-constexpr std::int16_t placesoftheright = 4;
 constexpr int nearyears = 10;
 constexpr int longesttoreign = 40; // years from a birth within which a reign may be that of an older person
 
