@@ -1,8 +1,8 @@
 #include "authoring/packs.h"
 
 #include "authoring/commandline.h"
+#include "authoring/eventpictures.h"
 #include "authoring/folder.h"
-#include "authoring/pictures.h"
 #include "authoring/words.h"
 #include "authoring/writing.h"
 #include "authoring/zipfile.h"
