@@ -136,6 +136,15 @@ std::string periodnamed(const std::string& word)
     return found == periodnames.end() ? std::string() : *found;
 }
 
+std::string periodlist(const std::string& word)
+{
+    std::string list = periodnames.front();
+    for (std::size_t period = 1; period <= lastperiod; ++period) {
+        list += (period < lastperiod ? ", " : ' ' + word + ' ') + periodnames[period];
+    }
+    return list;
+}
+
 Report playtimeline(const std::string& folder, const std::string& period, const Places& places,
                     const std::function<void(const Report&)>& ready)
 {
