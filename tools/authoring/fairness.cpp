@@ -198,6 +198,7 @@ constexpr std::array<Rule, lasttype> rules = {{
     {nationsets, nationrule},
     {eventorder, "first dates of two events 1 to 10 years apart, both \"ca.\": clear, one \"ca.\": arguable."},
 }};
+static_assert(!rules.back().words.empty(), "one rule a kind");
 
 bool hasreign(std::int16_t person)
 {
