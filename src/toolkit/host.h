@@ -42,7 +42,7 @@ public:
     virtual void update(Screen& screen) = 0;          // a field of the screen itself has changed
     virtual void focus(Control& control) = 0;         // the control has got the focus
     virtual bool message(const Message& message) = 0; // waits for the answer; true for OK and Yes
-    virtual Size displaysize() = 0; // what windows may take of the display
+    virtual Size displaysize() = 0;                   // what windows may take of the display
     virtual Size framesize() = 0; // what a window's frame and title bar add to its inside; 0 while not known
     virtual LoadedPicture loadpicture(const std::string& file) = 0;
     virtual void startviewer(const std::string& file) = 0; // any failure is ignored

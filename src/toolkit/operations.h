@@ -60,7 +60,7 @@ void messagebox(std::string text, std::string_view title = applicationtitle);
 void announce(std::string text); // a message in large letters
 bool askyesno(std::string text, std::string_view title);
 Size displaysize(); // what windows may take of the display
-Size framesize(); // what a window's frame and title bar add to its inside; 0 while not known
+Size framesize();   // what a window's frame and title bar add to its inside; 0 while not known
 LoadedPicture loadpicture(const std::string& file);
 void startviewer(const std::string& file);
 bool quitting();

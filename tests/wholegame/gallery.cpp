@@ -7,7 +7,7 @@
 #include "editors/pentry.h"
 #include "frame/mainscreen.h"
 #include "frame/services/placement.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "quiz/mchoice.h"
 #include "quiz/qmatch.h"
 #include "quiz/qsort.h"

@@ -3,6 +3,7 @@
 #include "gallery.h"
 #include "support/gametest.h"
 #include "support/timelines.h"
+#include "timeline/writer.h"
 #include "toolkit/operations.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/qthost.h"

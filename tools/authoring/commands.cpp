@@ -17,7 +17,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <regex>
 #include <string_view>
 #include <vector>
 
@@ -74,6 +73,11 @@ Forms examined(const std::string& folder, const std::string& prefix, Findings& f
     checkplaces(forms, findings);
     sortfindings(findings);
     return forms;
+}
+
+bool isdigit(char c)
+{
+    return c >= '0' && c <= '9';
 }
 
 // "40 people, 40 events"
@@ -178,7 +182,10 @@ Report newtimeline(const std::string& folder, char separator)
     const auto separated = [separator](std::string text) {
         if (separator != ',') {
             std::replace(text.begin(), text.end(), ',', separator);
-            text = std::regex_replace(text, std::regex(R"((\d)\.(\d))"), "$1,$2");
+            for (std::size_t at = text.find('.'); at != std::string::npos; at = text.find('.', at + 1)) {
+                const bool decimal = at > 0 && isdigit(text[at - 1]) && at + 1 < text.size() && isdigit(text[at + 1]);
+                text[at] = decimal ? ',' : '.';
+            }
         }
         return text;
     };

@@ -54,7 +54,7 @@ Report makewhole(const std::string& folder, const std::string& file, const Place
 
 Result<Done> copygame(const std::string& game, const std::string& into)
 {
-    for (const char* name : {"brindor", "brindor-viewer", "TITLE.BMP", "bdqord.txt", "brindor.png", "qt.conf"}) {
+    for (const char* name : {"brindor", "brindor-viewer", "TITLE.BMP", "bdqord.txt", "qt.conf"}) {
         const std::string from = inside(game, name);
         if (isregularfile(from)) {
             if (Result<Done> copied = copyfile(from, inside(into, name)); !copied) {

@@ -8,9 +8,12 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstddef>
 #include <optional>
-#include <regex>
+#include <unicode/regex.h>
+#include <unicode/unistr.h>
 #include <utility>
+#include <vector>
 
 namespace brindor::authoring {
 
@@ -67,12 +70,35 @@ constexpr std::array<Slip, 6> slips = {{
 // "44 BC" with the digits and the words on both sides of them.
 constexpr const char* yearform = R"((ad|a\.d\.)?\s*(-?)\s*(\+?\d+)\s*(bce?|b\.c\.(?:e\.)?|ad|a\.d\.|ce|c\.e\.)?)";
 
+// The whole text and the groups of a form that matches it; nothing where it does not.
+std::vector<std::string> matched(const char* form, const std::string& text)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    icu::RegexMatcher matcher(icu::UnicodeString::fromUTF8(form), 0, status);
+    const icu::UnicodeString characters = icu::UnicodeString::fromUTF8(text);
+    std::vector<std::string> groups;
+    if (U_SUCCESS(status) && matcher.reset(characters).matches(status)) {
+        for (int32_t i = 0; i <= matcher.groupCount(); ++i) {
+            std::string group;
+            groups.push_back(matcher.group(i, status).toUTF8String(group));
+        }
+    }
+    return groups;
+}
+
 std::string adviceon(const std::string& text)
 {
     for (const Slip& slip : slips) {
-        std::smatch found;
-        if (std::regex_match(text, found, std::regex(slip.form))) {
-            return found.format(slip.advice);
+        const std::vector<std::string> groups = matched(slip.form, text);
+        std::string advice = groups.empty() ? "" : slip.advice;
+        for (std::size_t i = 1; i < groups.size(); ++i) {
+            const std::string mark = '$' + numbertext(static_cast<std::int64_t>(i));
+            if (const std::size_t at = advice.find(mark); at != std::string::npos) {
+                advice.replace(at, mark.size(), groups[i]);
+            }
+        }
+        if (!advice.empty()) {
+            return advice;
         }
     }
     return "write a whole number, as 1832, -44 or 44 BC";
@@ -96,15 +122,17 @@ Result<std::int16_t> yearof(std::string_view field)
 {
     constexpr std::size_t longest = 100; // of what could be a year
     const std::string text = folded(plain(field.substr(0, longest)));
-    std::smatch found;
-    static const std::regex form(yearform);
-    if (!std::regex_match(text, found, form) || (found[1].matched && found[4].matched) ||
-        (found[2].length() > 0 && (found[1].matched || found[4].matched))) {
-        return {std::nullopt, inquotes(field.substr(0, longest)) + " is no year; " + adviceon(text)};
+    std::optional<std::int64_t> number = wholenumber(text);
+    if (!number) {
+        const std::vector<std::string> found = matched(yearform, text);
+        const bool signedtoo = found.size() == 5 && !found[2].empty();
+        const auto signs = found.size() == 5 ? !found[1].empty() + !found[4].empty() + (signedtoo ? 1 : 0) : 2;
+        if (signs > 1) {
+            return {std::nullopt, inquotes(field.substr(0, longest)) + " is no year; " + adviceon(text)};
+        }
+        number = wholenumber(found[3]).value_or(0) * (signedtoo || found[4].starts_with('b') ? -1 : 1);
     }
-    const bool before = found[2].length() > 0 || found[4].str().starts_with('b');
-    const std::int64_t number = wholenumber(found[3].str()).value_or(0);
-    const std::optional<std::int16_t> year = toint16(before ? -number : number);
+    const std::optional<std::int16_t> year = toint16(*number);
     if (!year) {
         return {std::nullopt, inquotes(field) + ' ' + std::string(outside16)};
     }
