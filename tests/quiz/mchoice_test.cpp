@@ -1,15 +1,12 @@
 #include "quiz/mchoice.h"
 
-#include "base/random.h"
 #include "questions/texts.h"
 #include "support/quiztest.h"
-
-#include <set>
+#include "support/story.h"
 
 namespace brindor {
 
 using namespace toolkit;
-using tests::find;
 
 class MchoiceTest : public tests::QuizTest {
 protected:
@@ -24,7 +21,7 @@ protected:
     }
 };
 
-TEST_F(MchoiceTest, ARightAnswer)
+TEST_F(MchoiceTest, AnswersAgainstResultScoreMarksAndLog)
 {
     play(2, [](Mchoice& s) {
         setmarks(100);
@@ -32,74 +29,59 @@ TEST_F(MchoiceTest, ARightAnswer)
         EXPECT_EQ(s.askeditem, chosen[static_cast<std::size_t>(s.rightchoice)]);
         EXPECT_EQ(usedmarks[usedslot(1, s.askeditem)], 104);
     });
-    EXPECT_EQ(heading, "Results for Who was?");
-    EXPECT_EQ(result, " Correct, +5 pts");
-    EXPECT_EQ(score, "Current score: 5 of 5  (100%)");
+    EXPECT_EQ(heading + '|' + result + '|' + score,
+              "Results for Who was?| Correct, +5 pts|Current score: 5 of 5  (100%)");
     EXPECT_EQ(log(), "Multiple Choice\r\n");
+    for (const char* told : {"Current score: 5 of 10  (50%)", "Current score: 5 of 15  (33%)"}) { // rounded down
+        std::string question;
+        std::string right;
+        const std::string before = log();
+        play(12, [&](Mchoice& s) {
+            setmarks(100);
+            question = s.label1.text;
+            right = s.choice[static_cast<std::size_t>(s.rightchoice)].text;
+            userpress(s.choice[4]);
+            std::vector<std::int16_t> expected(5, 100);
+            expected[4] = expected[static_cast<std::size_t>(s.rightchoice)] = 99;
+            EXPECT_EQ(chosenmarks(), expected);
+        });
+        EXPECT_EQ(heading + '|' + result + '|' + score,
+                  "Results for Which nations were involved?|Sorry, the answer was " + right + '|' + told);
+        EXPECT_EQ(log(), before + "Multiple Choice\r\n" + question + ' ' + right + "\r\n");
+    }
 }
 
-TEST_F(MchoiceTest, AWrongAnswer)
+TEST_F(MchoiceTest, TheScreenShowsTheQuestionOverItsWholeWidth)
 {
-    std::string question;
-    std::string right;
-    play(12, [&](Mchoice& s) {
-        setmarks(100);
-        question = s.label1.text;
-        right = s.choice[static_cast<std::size_t>(s.rightchoice)].text;
-        userpress(s.choice[4]);
-        std::vector<std::int16_t> expected(5, 100);
-        expected[4] = 99;
-        expected[static_cast<std::size_t>(s.rightchoice)] = 99;
-        EXPECT_EQ(chosenmarks(), expected);
-    });
-    EXPECT_EQ(result, "Sorry, the answer was " + right);
-    EXPECT_EQ(score, "Current score: 0 of 5  (0%)");
-    EXPECT_EQ(heading, "Results for Which nations were involved?");
-    EXPECT_EQ(log(), "Multiple Choice\r\n" + question + ' ' + right + "\r\n");
-}
-
-TEST_F(MchoiceTest, TheScreenShowsTheQuestion)
-{
-    const std::int16_t types[] = {1, 2, 7, 8, 12};
-    for (const std::int16_t type : types) {
+    for (const auto type : std::initializer_list<std::int16_t>{1, 2, 7, 8, 12}) {
         play(type, [type](Mchoice& s) {
             EXPECT_EQ(s.label1.text, paramname(questionline, s.askeditem, 0));
+            userresize(s, 12000 + type, 8000, normal);
             for (std::size_t i = 0; i < 5; ++i) {
                 EXPECT_EQ(s.choice[i].text, paramname(itemtext, chosen[i], 0));
-                EXPECT_FALSE(s.choice[i].selected);
+                EXPECT_EQ(s.choice[i].place.width, s.width - 480);
             }
+            EXPECT_EQ(s.label1.place.width, s.width - 480);
             EXPECT_EQ(isperson, type <= 6 ? 1 : 0);
             EXPECT_EQ(s.frame1.place, (Place{40, 25, s.width - 80, s.height - 50}));
-            EXPECT_EQ(s.choice[2].place.width, s.width - 480);
             userclose(s);
         });
     }
 }
 
-// What leaves the question unanswered changes nothing but what the draw has done.
+// What leaves the question unanswered changes nothing but what the draw has done. A keyboard selects with a click.
 TEST_F(MchoiceTest, SkipCloseHelpAndKeyboardDoNotAnswer)
 {
-    const std::function<void(Mchoice&)> acts[] = {
-        [](Mchoice& s) { userclick(s.command1); },
-        [](Mchoice& s) { userclose(s); },
-        [this](Mchoice& s) {
-            userclick(s.cmdhelp);
-            EXPECT_EQ(host.messages.back().text,
-                      "Click on the best description.\r\nClick on skip to move to the next question");
-            EXPECT_FALSE(s.closed);
-            userclick(s.choice[1]); // as a keyboard selects
-            EXPECT_TRUE(s.choice[1].selected);
-            EXPECT_FALSE(userreturn(s));
-            EXPECT_FALSE(userescape(s));
-            EXPECT_FALSE(s.closed);
-            userclick(s.command1);
-        },
-    };
-    for (const auto& act : acts) {
-        play(7, [&act](Mchoice& s) {
+    for (const char* story : {"Command1", "", "cmdhelp; choice(1); return; esc; Command1"}) {
+        play(7, [&](Mchoice& s) {
             setmarks(50);
-            act(s);
+            EXPECT_EQ(act(host, s, story), story[0] != 'c' ? ""
+                                                           : "Click on the best description.\r\nClick on skip to move "
+                                                             "to the next question\n!return\n!esc\n");
+            EXPECT_EQ(s.choice[1].selected, story[0] == 'c');
             EXPECT_EQ(chosenmarks(), std::vector<std::int16_t>(5, 50));
+            EXPECT_EQ(s.closed, story[0] != 0);
+            userclose(s);
         });
     }
     EXPECT_EQ(host.shown, std::vector<std::string>(3, "mchoice"));
