@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace brindor {
 
@@ -26,13 +27,6 @@ protected:
             texts.insert(getpstr(chosen[slot], type));
         }
         return std::to_string(texts.size()) + (isperson != 0 ? " people" : " events");
-    }
-
-    static std::vector<std::int16_t> sortedmarks()
-    {
-        std::vector<std::int16_t> marks = usedmarks;
-        std::sort(marks.begin(), marks.end());
-        return marks;
     }
 };
 
@@ -51,38 +45,32 @@ TEST_F(Selection, DrawsFiveDifferentItemsOfTheTypesFamily)
 }
 
 // Five people: the second question climbs to level 2, and for its last slot to level 11.
-TEST_F(Selection, ClimbsWhenTheFreshItemsAreUsedUp)
+TEST_F(Selection, ClimbsWhenTheFreshItemsAreUsedUpAndRefusesAMarkEqualToTheLevel)
 {
     tests::setnumbered(5, 0);
     EXPECT_EQ(draw(6), "5 people");
-    EXPECT_EQ(sortedmarks(), (std::vector<std::int16_t>{0, 1, 1, 1, 1, 10}));
+    std::vector<std::int16_t> marks(6, 1);
     const std::int16_t first = chosen[0];
+    marks[static_cast<std::size_t>(first)] = 10;
+    marks[5] = 0;
+    EXPECT_EQ(usedmarks, marks);
     EXPECT_EQ(draw(6), "5 people");
     EXPECT_EQ(chosen[4], first);
     EXPECT_EQ(usedmarks[static_cast<std::size_t>(first)], 11);
-}
-
-TEST_F(Selection, AMarkEqualToTheLevelIsRefused)
-{
-    tests::setnumbered(20, 0);
-    usedmarks.assign(usedmarks.size(), 1);
-    usedmarks[7] = 0;
-    qtype = 6;
-    EXPECT_EQ(getitem(0), 7); // the only one below level 1
+    tests::setnumbered(200, 0);
+    usedmarks.assign(201, 50);
+    usedmarks[3] = 5;
+    EXPECT_EQ(getitem(0), 3); // the only one below level 6
     usedmarks.assign(usedmarks.size(), 32767);
     EXPECT_GE(getitem(0), 0); // nor does a mark at its limit keep an item away for ever
-    EXPECT_LE(*std::max_element(usedmarks.begin(), usedmarks.end()), 32767);
+    EXPECT_EQ(usedmarks, std::vector<std::int16_t>(201, 32767));
 }
 
 // Which items a type never draws: those whose comparison text is empty or a single blank.
-TEST_F(Selection, BlankTexts)
+TEST_F(Selection, BlankTextsAreNeverDrawn)
 {
-    const struct {
-        std::int16_t type;
-        bool drawn;
-    } cases[] = {{1, true},  {2, false}, {3, true},  {4, false}, {5, true},   {6, false}, {7, true},
-                 {8, false}, {9, true},  {10, true}, {11, true}, {12, false}, {13, false}};
-    for (const auto& c : cases) {
+    std::string drawn;
+    for (std::int16_t type = 1; type <= lasttype; ++type) {
         tests::setnumbered(5, 5);
         people.insert(people.begin(), tests::person("", tests::year(1)));
         events.insert(events.begin(), tests::event(" ", tests::year(2)));
@@ -90,12 +78,16 @@ TEST_F(Selection, BlankTexts)
         bool seen = false;
         for (int game = 0; game < 40; ++game) {
             clearmarks();
-            draw(c.type);
+            draw(type);
             seen = seen || std::count(chosen.begin(), chosen.begin() + 5, 0) > 0;
         }
-        EXPECT_EQ(seen, c.drawn) << c.type;
-        people[0].desc1 = events[0].desc2 = "  "; // two blanks pass
+        drawn += seen ? std::to_string(type) + ' ' : "";
     }
+    EXPECT_EQ(drawn, "1 3 5 7 9 10 11 ");
+    people[5] = people[4];
+    EXPECT_FALSE(canfill(2));
+    people[0].desc1 = "  "; // two blanks pass
+    EXPECT_TRUE(canfill(2));
 }
 
 TEST_F(Selection, EqualTextsAndTooFewItems)
@@ -137,38 +129,35 @@ TEST_F(Selection, WhereNothingCanPassItEnds)
     EXPECT_EQ(host.messages.at(0).text, "No action for 14");
 }
 
-// Among the items that pass, each is equally likely.
+// Among the items that pass, each is equally likely: 0.1 % of fair draws exceed the limit, with 10 degrees of freedom.
 TEST_F(Selection, IsUniform)
 {
-    constexpr int items = 12;
-    constexpr int draws = 6000;
-    tests::setnumbered(0, items);
-    std::vector<double> counts(items);
-    for (int i = 0; i < draws; ++i) {
+    constexpr double expected = 500;
+    tests::setnumbered(0, 12);
+    std::vector<double> counts(12);
+    qtype = 13;
+    for (int i = 0; i < 11 * expected; ++i) {
         clearmarks();
         usedmarks[3] = 1; // never while the others are fresh
-        qtype = 13;
         ++counts[static_cast<std::size_t>(getitem(0))];
     }
-    EXPECT_EQ(counts[3], 0);
+    EXPECT_EQ(std::exchange(counts[3], expected), 0);
     double chisquare = 0;
-    const double expected = draws / (items - 1.0);
-    for (std::size_t i = 0; i < counts.size(); ++i) {
-        chisquare += i == 3 ? 0 : (counts[i] - expected) * (counts[i] - expected) / expected;
+    for (const double count : counts) {
+        chisquare += (count - expected) * (count - expected) / expected;
     }
-    EXPECT_LT(chisquare, 29.6); // 0.1 % of fair generators exceed this with 10 degrees of freedom
+    EXPECT_LT(chisquare, 29.6);
 }
 
 TEST(Random, StaysBelowItsBound)
 {
     seedrandom(42);
+    std::set<std::int16_t> drawn;
     for (int i = 0; i < 1000; ++i) {
-        const double r = randomvalue();
-        ASSERT_TRUE(r >= 0 && r < 1);
-        ASSERT_TRUE(drawbelow(3) >= 0 && drawbelow(3) < 3);
+        drawn.insert(drawbelow(3));
     }
-    EXPECT_EQ(drawbelow(0), 0);
-    EXPECT_EQ(drawbelow(-5), 0);
+    EXPECT_EQ(drawn, (std::set<std::int16_t>{0, 1, 2}));
+    EXPECT_EQ(drawbelow(0) + drawbelow(-5), 0);
 }
 
 } // namespace brindor

@@ -80,7 +80,7 @@ TEST_F(QsortTest, ClicksPushUpAndOnlyClicks)
 {
     play({1, 2, 3, 4, 5}, {0, 1, 2, 3, 4},
          "List1#4; ?; List1#4; ?; List1#0; ?; List1#1; ?; List1#5; List1#-1; esc; return; Command2",
-         "ABCED\nABECD\nABECD\nBAECD\n!List1#5\n!List1#-1\n!esc\n!return\nSort the items listed.  Click on a line to "
+         "ABCED\nABCDE\nABCDE\nBACDE\n!List1#5\n!List1#-1\n!esc\n!return\nSort the items listed.  Click on a line to "
          "move "
          "that item up one level.  When all are in position, click 'Done'\n");
     EXPECT_EQ(host.shown, std::vector<std::string>{"qsort"}); // no result after the title bar
