@@ -159,46 +159,39 @@ TEST_P(Editors, StoresEveryFieldOfTheRecordShown)
 
 TEST_P(Editors, DescriptionsThereAndBack)
 {
-    const struct {
-        const char* typed;
-        const char* stored; // desc1|desc2
-        const char* shown;
-    } cases[] = {{"one", "one| ", "one\r\n "},   {"one\r\n", "one|", "one"},
-                 {"one\r", "one|", "one"},       {"", "| ", "\r\n "},
-                 {"\r\ntwo", "|two", "\r\ntwo"}, {"one\r\n\r\nx", "one|\r\nx", "one\r\n\r\nx"}};
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        // typed, desc1|desc2, shown
+        {"one", "one| ", "one\r\n "}, {"one\r\n", "one|", "one"},     {"one\r", "one|", "one"},
+        {"", "| ", "\r\n "},          {"\r\ntwo", "|two", "\r\ntwo"}, {"one\r\n\r\nx", "one|\r\nx", "one\r\n\r\nx"}};
     viewonly = 0;
-    for (const auto& c : cases) {
+    for (const auto& [typed, stored, shown] : cases) {
         setrecords({100});
-        EXPECT_EQ(visit(std::string("desc=") + c.typed + "; cmdNext:Y; Combo1#0; ?"),
-                  std::string("Data changed: Store changed data?\nLast in list\n0 [A] A|100|100|") + c.shown + "|14\n");
-        EXPECT_EQ(item(0).desc1 + '|' + item(0).desc2, c.stored);
+        EXPECT_EQ(visit(std::string("desc=") + typed + "; cmdNext:Y; Combo1#0; ?"),
+                  std::string("Data changed: Store changed data?\nLast in list\n0 [A] A|100|100|") + shown + "|14\n");
+        EXPECT_EQ(item(0).desc1 + '|' + item(0).desc2, stored);
     }
 }
 
 TEST_P(Editors, AChangedDateMovesTheRecordWithItsMarkAndTheCursorStays)
 {
-    const struct {
-        std::vector<std::int16_t> dates;
-        std::int16_t k;
-        const char* date;
-        const char* list; // with the cursor, after a step back
-        const char* records;
-    } cases[] = {{{100, 200, 300}, 1, "250", "0 [ABC]", "A 100:1, B 250:2, C 300:3"},
-                 {{100, 200, 300}, 0, "200", "0 [BAC]", "B 200:2, A 200:1, C 300:3"}, // behind all of the same date
-                 {{100, 200, 300}, 2, "100", "1 [ACB]", "A 100:1, C 100:3, B 200:2"},
-                 {{100, 200, 300}, 2, "50", "1 [CAB]", "C 50:3, A 100:1, B 200:2"},
-                 {{100, 200, 300}, 0, "900", "0 [BCA]", "B 200:2, C 300:3, A 900:1"},
-                 {{300, 200, 100}, 1, "200", "0 [ABC]", "A 300:1, B 200:2, C 100:3"},  // unchanged: nothing is sorted
-                 {{300, 200, 100}, 1, "400", "0 [CAB]", "C 100:3, A 300:1, B 400:2"},  // one pass: the lowest is first
-                 {{100, 100, 100}, 0, "99.5", "0 [ABC]", "A 100:1, B 100:2, C 100:3"}, // 99.5 is stored as 100
-                 {{100}, 0, "-5", "0 [A]", "A -5:1"}};
+    // Dates, which record, its new date; cursor and list after a step back, and the records.
+    const std::tuple<std::vector<std::int16_t>, std::int16_t, const char*, const char*, const char*> cases[] = {
+        {{100, 200, 300}, 1, "250", "0 [ABC]", "A 100:1, B 250:2, C 300:3"},
+        {{100, 200, 300}, 0, "200", "0 [BAC]", "B 200:2, A 200:1, C 300:3"}, // behind all of the same date
+        {{100, 200, 300}, 2, "100", "1 [ACB]", "A 100:1, C 100:3, B 200:2"},
+        {{100, 200, 300}, 2, "50", "1 [CAB]", "C 50:3, A 100:1, B 200:2"},
+        {{100, 200, 300}, 0, "900", "0 [BCA]", "B 200:2, C 300:3, A 900:1"},
+        {{300, 200, 100}, 1, "200", "0 [ABC]", "A 300:1, B 200:2, C 100:3"},  // unchanged: nothing is sorted
+        {{300, 200, 100}, 1, "400", "0 [CAB]", "C 100:3, A 300:1, B 400:2"},  // one pass: the lowest is first
+        {{100, 100, 100}, 0, "99.5", "0 [ABC]", "A 100:1, B 100:2, C 100:3"}, // 99.5 is stored as 100
+        {{100}, 0, "-5", "0 [A]", "A -5:1"}};
     viewonly = 0;
-    for (const auto& c : cases) {
-        setrecords(c.dates);
-        cursor = c.k;
-        const std::string transcript = visit(std::string("date1=") + c.date + "; desc=x; cmdPrev:Y; ?");
-        EXPECT_NE(transcript.find(c.list), std::string::npos) << c.date << ' ' << transcript;
-        EXPECT_EQ(records(), std::string(c.records) + " / 101 102") << c.date;
+    for (const auto& [dates, k, date, list, after] : cases) {
+        setrecords(dates);
+        cursor = k;
+        const std::string transcript = visit(std::string("date1=") + date + "; desc=x; cmdPrev:Y; ?");
+        EXPECT_NE(transcript.find(list), std::string::npos) << date << ' ' << transcript;
+        EXPECT_EQ(records(), std::string(after) + " / 101 102") << date;
     }
 }
 

@@ -97,20 +97,17 @@ TEST_F(OwnFields, AnEventsPictureRowFollowsTheRecordAndAFailedPictureIsTold)
 
 TEST_F(OwnFields, AnEventsFieldsAreStoredAndOfferedToTheNext)
 {
-    const struct {
-        const char* sizes;
-        std::int16_t stored1, stored2;
-    } cases[] = {{"Text2=320; Text3=240", 320, 240},
-                 {"Text2=12.5; Text3=13.5", 12, 14},
-                 {"Text2=x; Text3=", 0, 0},
-                 {"Text2=99999; Text3=-1e9", 32767, -32768}};
+    const std::tuple<std::string, std::int16_t, std::int16_t> cases[] = {{"Text2=320; Text3=240", 320, 240},
+                                                                         {"Text2=12.5; Text3=13.5", 12, 14},
+                                                                         {"Text2=x; Text3=", 0, 0},
+                                                                         {"Text2=99999; Text3=-1e9", 32767, -32768}};
     viewonly = 0;
-    for (const auto& c : cases) {
+    for (const auto& [sizes, stored1, stored2] : cases) {
         curevent = 0;
-        EXPECT_EQ(visit<EEntry>(std::string(c.sizes) + "; cboGroup#0; cboNation1#1; cboNation2#2; cmdNext:Y"),
+        EXPECT_EQ(visit<EEntry>(sizes + "; cboGroup#0; cboNation1#1; cboNation2#2; cmdNext:Y"),
                   "Data changed: Store changed data?\n");
-        EXPECT_EQ(events[0].imagesize1, c.stored1);
-        EXPECT_EQ(events[0].imagesize2, c.stored2);
+        EXPECT_EQ(events[0].imagesize1, stored1);
+        EXPECT_EQ(events[0].imagesize2, stored2);
     }
     EXPECT_EQ(events[0].group * 100 + events[0].nation1 * 10 + events[0].nation2, 123);
     curevent = 0; // the two sizes alone are not offered, the picture's name is; a new event offers the last picture

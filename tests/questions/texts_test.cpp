@@ -29,21 +29,14 @@ protected:
     }
 };
 
-TEST_F(Texts, DatesOfEveryKindInBothFamilies)
+TEST_F(Texts, DatesOfEveryKind)
 {
     const std::string kinds[] = {"", "ca. ", "(reign) "};
     for (std::int16_t one = 0; one < 3; ++one) {
         for (std::int16_t two = 0; two < 3; ++two) {
-            people[0].datetype1 = events[1].datetype1 = one;
-            people[0].datetype2 = events[1].datetype2 = two;
-            people[1].datetype1 = events[0].datetype1 = one;
-            people[1].date2 = people[1].date1;
-            isperson = 1;
-            EXPECT_EQ(datetext(0, "to"), kinds[one] + "-100 to " + kinds[two] + "-44");
-            EXPECT_EQ(datetext(1, "to"), kinds[one] + "-69");
-            isperson = 0;
-            EXPECT_EQ(datetext(1, "-"), kinds[one] + "-53 - " + kinds[two] + "7");
-            EXPECT_EQ(datetext(0, "-"), kinds[one] + "-52");
+            const auto& [first, second] = std::tie(kinds[one], kinds[two]);
+            EXPECT_EQ(datetext(tests::years(-5, 7, one, two), "to"), first + "-5 to " + second + '7');
+            EXPECT_EQ(datetext(tests::years(9, 9, one, two), "to"), first + '9');
         }
     }
     const std::pair<Dates, const char*> odd[] = {{tests::years(1250, 1200), "1250 to 1200"},
@@ -53,19 +46,20 @@ TEST_F(Texts, DatesOfEveryKindInBothFamilies)
     for (const auto& [dates, text] : odd) {
         EXPECT_EQ(datetext(dates, "to"), text);
     }
+    for (isperson = 0; isperson < 2; ++isperson) {
+        EXPECT_EQ(datetext(1, "-"), isperson == 0 ? "-53 - 7" : "(reign) -69 - (reign) -30");
+    }
 }
 
 TEST_F(Texts, OneNationOrTwo)
 {
-    const struct {
-        std::int16_t nation1, nation2;
-        const char* text;
-    } cases[] = {{1, 1, "Gaul"}, {1, 2, "Gaul, Parthia"}, {1, 3, "Gaul, Gaul"}, {0, 0, ""}, {3, 0, "Gaul, "},
-                 {9, 9, ""},     {-1, 2, ", Parthia"},    {4, 2, ", Parthia"}};
-    for (const auto& c : cases) {
-        events[0].nation1 = c.nation1;
-        events[0].nation2 = c.nation2;
-        EXPECT_EQ(nationtext(0), c.text);
+    const std::tuple<std::int16_t, std::int16_t, const char*> cases[] = {
+        {1, 1, "Gaul"}, {1, 2, "Gaul, Parthia"}, {1, 3, "Gaul, Gaul"}, {0, 0, ""}, {3, 0, "Gaul, "},
+        {9, 9, ""},     {-1, 2, ", Parthia"},    {4, 2, ", Parthia"}};
+    for (const auto& [nation1, nation2, text] : cases) {
+        events[0].nation1 = nation1;
+        events[0].nation2 = nation2;
+        EXPECT_EQ(nationtext(0), text);
     }
 }
 

@@ -52,39 +52,38 @@ protected:
 // Drops of a bar on the description of another (or the same); the last on a description counts there.
 TEST_F(QmatchTest, DropsAgainstResultScoreMarksAndLog)
 {
-    const struct {
-        std::vector<std::pair<std::size_t, std::size_t>> drops;
-        std::size_t wrongbar, wronglines;
-        int points;
-    } cases[] = {{{}, 0, 0, 0},
-                 {{{0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}}, 0, 0, 25},
-                 {{{4, 4}, {2, 2}, {0, 1}}, 0, 1, 10},
-                 {{{3, 0}, {3, 1}, {3, 2}, {3, 3}, {3, 4}}, 3, 4, 5}, // one bar everywhere
-                 {{{0, 4}, {4, 4}}, 0, 0, 5},                         // of two bars the later
-                 {{{4, 0}, {4, 4}}, 4, 1, 5},                         // the place of a wrong drop is judged too
-                 {{{4, 0}, {0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}}, 0, 0, 25}};
-    for (const auto& c : cases) {
+    using Drops = std::vector<std::pair<std::size_t, std::size_t>>;
+    const std::tuple<Drops, std::size_t, int, int> cases[] = {
+        // the bar and the number of wrong lines, the points
+        {{}, 0, 0, 0},
+        {{{0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}}, 0, 0, 25},
+        {{{4, 4}, {2, 2}, {0, 1}}, 0, 1, 10},
+        {{{3, 0}, {3, 1}, {3, 2}, {3, 3}, {3, 4}}, 3, 4, 5}, // one bar everywhere
+        {{{0, 4}, {4, 4}}, 0, 0, 5},                         // of two bars the later
+        {{{4, 0}, {4, 4}}, 4, 1, 5},                         // the place of a wrong drop is judged too
+        {{{4, 0}, {0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}}, 0, 0, 25}};
+    for (const auto& [drops, wrongbar, wronglines, won] : cases) {
         std::vector<std::int16_t> marks(5, 100);
         std::string names;
         std::string wrong;
-        play([&](Qmatch& s) {
-            for (const auto& [bar, target] : c.drops) {
+        play([&, &drops = drops, &wrongbar = wrongbar, &wronglines = wronglines](Qmatch& s) {
+            for (const auto& [bar, target] : drops) {
                 const std::size_t position = positionof(s, target);
                 drag(s, bar, position);
                 EXPECT_EQ(s.btn1[bar].place.left, 4080 + (4 - static_cast<double>(bar)) * 540); // straight down
                 marks[position] = bar == target ? 104 : 99; // of the bar with the position's number
             }
-            for (std::size_t line = 0; line < c.wronglines; ++line) {
-                wrong += s.btn1[c.wrongbar].text + " = " + s.label2[positionof(s, c.wrongbar)].text + "\r\n";
+            for (int line = 0; line < wronglines; ++line) {
+                wrong += s.btn1[wrongbar].text + " = " + s.label2[positionof(s, wrongbar)].text + "\r\n";
             }
             for (const Button& bar : s.btn1) {
                 names += bar.text + "\r\n";
             }
         });
-        const std::string points = std::to_string(c.points);
-        const bool all = c.points == 25;
+        const std::string points = std::to_string(won);
+        const bool all = won == 25;
         EXPECT_EQ(result, all ? "*** All correct!" : "\r\n" + wrong + "*** Scored " + points + " of 25");
-        EXPECT_EQ(score, "Current score: " + points + " of 25  (" + std::to_string(c.points * 4) + "%)");
+        EXPECT_EQ(score, "Current score: " + points + " of 25  (" + std::to_string(won * 4) + "%)");
         EXPECT_EQ(heading, "Results for Matching Nation, group");
         EXPECT_EQ(chosenmarks(), marks);
         EXPECT_EQ(log(), "Match Nation, group\r\n" + names + (all ? " *** All correct!\r\n" : wrong));
@@ -119,18 +118,6 @@ TEST_F(QmatchTest, ClicksAndDragsMixed)
         EXPECT_FALSE(s.closed);
     });
     EXPECT_EQ(result, "\r\n*** Scored 5 of 25");
-}
-
-TEST_F(QmatchTest, SkipAndCloseScoreNothing)
-{
-    for (const bool skip : {true, false}) {
-        play([skip](Qmatch& s) {
-            drag(s, 0, 0);
-            skip ? userclick(s.command2) : userclose(s);
-        });
-    }
-    EXPECT_EQ(host.shown, std::vector<std::string>(2, "qmatch"));
-    EXPECT_EQ(players[0].asked, 0);
 }
 
 TEST_F(QmatchTest, ALongNameStandsSmallerAndIsCountedInCharacters)

@@ -69,29 +69,21 @@ TEST_F(SetupTest, ShowsTheSettingsAndChangesThemAtOnceOrAtItsEnd)
     EXPECT_EQ(typeenabled, (std::array<std::int16_t, 15>{7})); // no type at all is not refused here
 }
 
+// What is typed, what it becomes at once, and when the focus leaves the field (or the screen closes).
 TEST_F(SetupTest, TheNumberOfQuestionsAsTypedAndAsStepped)
 {
-    const struct {
-        const char* typed;
-        const char* atonce;
-        const char* afterwards;
-        std::int16_t kept;
-    } cases[] = {{"0", "1", "1", 1},   {"25", "10", "10", 10},  {"-3", "1", "1", 1},    {"", "", "1", 1},
-                 {"-", "-", "1", 1},   {"abc", "abc", "1", 1},  {"3.5", "3.5", "4", 4}, {"08", "8", "8", 8},
-                 {" 6", " 6", "6", 6}, {"1e9", "1e9", "10", 10}};
-    for (const auto& c : cases) {
-        const std::string rest = "|All|1|+++++++++++++\n";
-        EXPECT_EQ(visit(std::string("nquestion=") + c.typed + "; ?; List1; ?"), c.atonce + rest + c.afterwards + rest);
-        EXPECT_EQ(nquestion, c.kept) << c.typed;
+    const std::string rest = "|All|1|+++++++++++++\n";
+    for (const std::string& row :
+         tests::split("0,1,1; 25,10,10; -3,1,1; ,,1; -,-,1; abc,abc,1; 3.5,3.5,4; 08,8,8; 6x,6x,6; 1e9,1e9,10", "; ")) {
+        const std::vector<std::string> cells = tests::split(row, ",");
+        EXPECT_EQ(visit("nquestion=" + cells[0] + "; ?; List1; ?"), cells[1] + rest + cells[2] + rest);
+        EXPECT_EQ(std::to_string(nquestion), cells[2]) << row;
         nquestion = 5;
-        visit(std::string("nquestion=") + c.typed); // closed with the focus still in the field
-        EXPECT_EQ(nquestion, c.kept) << c.typed;
+        visit("nquestion=" + cells[0]);
+        EXPECT_EQ(std::to_string(nquestion), cells[2]) << row;
     }
     nquestion = 8;
-    visit("UpDown1+; UpDown1+; UpDown1+");
-    EXPECT_EQ(nquestion, 10);
-    visit("UpDown1-; UpDown1-");
-    EXPECT_EQ(nquestion, 8);
+    EXPECT_EQ(visit("UpDown1+; UpDown1+; UpDown1+; ?; UpDown1-; ?"), "10" + rest + '9' + rest);
 }
 
 // Opening and closing changes nothing in the file but the lowest difficulty and the form of the flags.

@@ -75,12 +75,21 @@ std::string said(MemoryHost& host)
     return text;
 }
 
+std::vector<std::string> split(const std::string& text, const std::string& separator)
+{
+    std::vector<std::string> pieces;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find(separator, at), text.size());
+        pieces.push_back(text.substr(at, end - at));
+        at = end + separator.size();
+    }
+    return pieces;
+}
+
 std::string act(MemoryHost& host, Screen& screen, const std::string& story, const std::function<std::string()>& look)
 {
     std::string transcript;
-    for (std::size_t at = 0; at < story.size();) {
-        const std::size_t end = std::min(story.find("; ", at), story.size());
-        std::string step = story.substr(at, end - at);
+    for (std::string& step : split(story, "; ")) {
         host.answers.assign(1, step.ends_with(":Y"));
         step.resize(step.size() - (step.ends_with(":Y") ? 2 : 0));
         if (step == "?") {
@@ -89,7 +98,6 @@ std::string act(MemoryHost& host, Screen& screen, const std::string& story, cons
             transcript += '!' + step + '\n';
         }
         transcript += said(host);
-        at = end + 2;
     }
     return transcript;
 }

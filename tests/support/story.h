@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace brindor::tests {
 
@@ -18,6 +19,9 @@ namespace brindor::tests {
 // Gives what the steps led to, a line each: "!step" for one that was refused, every message, and what was looked at.
 std::string act(MemoryHost& host, toolkit::Screen& screen, const std::string& story,
                 const std::function<std::string()>& look = {});
+
+// The pieces of a text between separators.
+std::vector<std::string> split(const std::string& text, const std::string& separator);
 
 // Every message since the last call, a line each: "title: text", without the usual title.
 std::string said(MemoryHost& host);

@@ -5,9 +5,6 @@
 #include "timeline/usedmarks.h"
 #include "timeline/writer.h"
 
-#include <rapidcheck.h>
-#include <rapidcheck/gtest.h>
-
 #include <string>
 
 namespace brindor {
@@ -144,32 +141,6 @@ TEST_F(Reader, AMissingFileChangesNothingButClearsTheMarks)
     EXPECT_EQ(mindate, 912);
     EXPECT_EQ(curfile, "Medieval.bd3");
     EXPECT_EQ(usedmarks, std::vector<std::int16_t>(4));
-}
-
-// Any damage gives at most one message, and the counters never leave what the arrays hold.
-RC_GTEST_FIXTURE_PROP(Reader, DamagedFilesNeverBreakIt, ())
-{
-    std::string text = smallfile;
-    const auto hits = *rc::gen::inRange(1, 6);
-    for (int i = 0; i < hits; ++i) {
-        const auto at = *rc::gen::inRange<std::size_t>(0, text.size());
-        const auto with = *rc::gen::elementOf(std::string("0123456789-, \n\r\xFFxe"));
-        if (*rc::gen::arbitrary<bool>()) {
-            text[at] = with;
-        } else {
-            text.insert(at, 1, with);
-        }
-    }
-    text.resize(*rc::gen::weightedOneOf<std::size_t>(
-        {{3, rc::gen::just(text.size())}, {1, rc::gen::inRange<std::size_t>(0, text.size())}}));
-    writefile("T.bd3", text);
-    host.messages.clear();
-    readtimeline("T.bd3");
-    clearmarks();
-    RC_ASSERT(host.messages.size() <= 1U);
-    RC_ASSERT(npeople >= 0 && static_cast<double>(people.size()) >= npeople + 2);
-    RC_ASSERT(nevents >= 0 && static_cast<double>(events.size()) >= nevents + 2);
-    RC_ASSERT(static_cast<double>(usedmarks.size()) == npeople + nevents + 1);
 }
 
 } // namespace brindor
