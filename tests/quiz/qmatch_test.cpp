@@ -140,6 +140,7 @@ TEST_F(QmatchTest, TheShuffleIsTwentyExchangesOfNeighbours)
         seedrandom(seed);
         play([seed](Qmatch& s) {
             const double next = randomvalue();
+            userresize(s, 11000, 8000, normal);
             std::vector<double> draws;
             seedrandom(seed);
             for (double value = randomvalue(); value != next; value = randomvalue()) {

@@ -36,6 +36,7 @@ protected:
             EXPECT_EQ(s.caption, "Brindor History Trivia Game Setup");
             EXPECT_EQ(s.left, (host.display.width - s.width) * 0.5);
             EXPECT_EQ(s.top, (host.display.height - s.height) * 0.5);
+            EXPECT_EQ(s.cmdedit.font.points, 8);
             EXPECT_TRUE(s.width <= 1024 * 15 && s.height <= 700 * 15);
             userclose(screen);
         };
@@ -84,6 +85,20 @@ TEST_F(SetupTest, TheNumberOfQuestionsAsTypedAndAsStepped)
     }
     nquestion = 8;
     EXPECT_EQ(visit("UpDown1+; UpDown1+; UpDown1+; ?; UpDown1-; ?"), "10" + rest + '9' + rest);
+}
+
+TEST_F(SetupTest, OnlyAFieldWithTheFocusIsLeft)
+{
+    host.persons["setup"] = [](Screen& screen) {
+        auto& field = static_cast<SetupScreen&>(screen).nquestion;
+        EXPECT_FALSE(userleave(field));
+        usertype(field, "x");
+        EXPECT_TRUE(userleave(field));
+        EXPECT_FALSE(userleave(field));
+        EXPECT_EQ(field.text, "1");
+        userclose(screen);
+    };
+    showsetup([] {});
 }
 
 // Opening and closing changes nothing in the file but the lowest difficulty and the form of the flags.

@@ -113,6 +113,7 @@ TEST_F(Reader, FailureTextsNameLineFaultAndRemedy)
         EXPECT_EQ(read(text), "T.bd3, line " + message);
     }
     EXPECT_EQ(people.size(), 7U);
+    EXPECT_EQ(&personrec(7), &personrec(-1)); // outside
 }
 
 TEST_F(Reader, AFileThatEndsEarlyKeepsWhatWasRead)
