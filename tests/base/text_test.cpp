@@ -75,6 +75,7 @@ TEST(Numbers, IntoSixteenBits)
 {
     EXPECT_EQ(toint16(32767), 32767);
     EXPECT_FALSE(toint16(32768));
+    EXPECT_EQ(toint16(-32768), -32768);
     EXPECT_FALSE(toint16(-32769));
     const std::pair<double, std::int16_t> cases[] = {{12.5, 12},      {13.5, 14}, {-12.5, -12},
                                                      {-13.5, -14},    {0.5, 0},   {1e30, 32767},

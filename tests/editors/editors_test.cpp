@@ -92,38 +92,27 @@ protected:
         return text;
     }
 
-    struct Story {
-        std::vector<std::int16_t> dates;
-        std::int16_t cursor;
-        std::string steps, transcript, records;
-    };
-    void tell(const std::vector<Story>& stories)
+    void tell(const std::vector<std::int16_t>& dates, std::int16_t at, const std::string& steps,
+              const std::string& transcript, const std::string& after)
     {
-        for (const Story& story : stories) {
-            setrecords(story.dates);
-            cursor = story.cursor;
-            EXPECT_EQ(visit(story.steps), worded(story.transcript)) << story.steps;
-            EXPECT_EQ(records(), story.records + " / 101 102") << story.steps;
-        }
+        setrecords(dates);
+        cursor = at;
+        EXPECT_EQ(visit(steps), worded(transcript)) << steps;
+        EXPECT_EQ(records(), after + " / 101 102") << steps;
     }
 };
 INSTANTIATE_TEST_SUITE_P(Of, Editors, testing::Values("person", "event"), [](const auto& of) { return of.param; });
 
 TEST_P(Editors, BrowsingKeepsNothingAndStopsAtTheEnds)
 {
-    tell({{{100, 200},
-           0,
-           "cmdNew; cmdDelete; Combo1=N; date1=5; date2=5; desc=other; Option3; Option6; cmdNext:Y; ?; cmdPrev; ?; "
-           "cmdPrev; cmdNext; cmdNext; ?; esc",
-           "!cmdNew\n!cmdDelete\n1 [AB] B|200|200|Line of B|14\n0 [AB] A|100|100|Line of A|14\nFirst in list\n"
-           "Last in list\n1 [AB] B|200|200|Line of B|14\n",
-           "A 100:1, B 200:2"},
-          {{}, 0, "?; cmdNext; cmdPrev", "0 [] |0|0||14\nLast in list\nFirst in list\n", ""},
-          {{100, 200},
-           1,
-           "?; desc=other; return:Y; ?",
-           "1 [AB] B|200|200|Line of B|14\n1 [AB] B|200|200|other|14\n",
-           "A 100:1, B 200:2"}});
+    const std::string first = "0 [AB] A|100|100|Line of A|14\n";
+    const std::string second = "1 [AB] B|200|200|Line of B|14\n";
+    tell({100, 200}, 0,
+         "cmdNew; cmdDelete; Combo1=N; date1=5; date2=5; desc=other; Option3; Option6; cmdNext:Y; ?; cmdPrev; ?; "
+         "cmdPrev; cmdNext; cmdNext; ?; esc",
+         "!cmdNew\n!cmdDelete\n" + second + first + "First in list\nLast in list\n" + second, "A 100:1, B 200:2");
+    tell({}, 0, "?; cmdNext; cmdPrev", "0 [] |0|0||14\nLast in list\nFirst in list\n", "");
+    tell({100, 200}, 1, "?; desc=other; return:Y", second, "A 100:1, B 200:2");
     EXPECT_EQ(closedwith, "");
 }
 
@@ -131,27 +120,21 @@ TEST_P(Editors, EachChangeIsOfferedOnceAndDroppedByNoOrTheList)
 {
     const std::string asked = "Data changed: Store changed data?\n";
     viewonly = 0;
-    tell({{{100, 200},
-           0,
-           "cmdNext; date1=5; cmdPrev; date2=5; cmdNext; desc=other; cmdPrev; Option1; cmdNext; Option6; cmdPrev; ?",
-           (asked + asked + asked + asked + asked + "0 [AB] A|100|100|Line of A|14\n"),
-           "A 100:1, B 200:2"},
-          {{100, 200},
-           0,
-           "desc=other; Combo1#1; ?; Combo1=other; cmdOK:Y",
-           "1 [AB] B|200|200|Line of B|14\n",
-           "A 100:1, B 200:2"}});
+    tell({100, 200}, 0,
+         "cmdNext; date1=5; cmdPrev; date2=5; cmdNext; desc=other; cmdPrev; Option1; cmdNext; Option6; cmdPrev; ?",
+         asked + asked + asked + asked + asked + "0 [AB] A|100|100|Line of A|14\n", "A 100:1, B 200:2");
+    tell({100, 200}, 0, "desc=other; Combo1#1; ?; Combo1=other; cmdOK:Y", "1 [AB] B|200|200|Line of B|14\n",
+         "A 100:1, B 200:2");
     EXPECT_EQ(closedwith, "");
 }
 
 TEST_P(Editors, StoresEveryFieldOfTheRecordShown)
 {
     viewonly = 0;
-    tell({{{100, 200},
-           0,
-           "Combo1=Name; date1=100.4; date2=13.5e1; desc=One\r\nTwo\r\nThree; Option2; Option6; cmdNext:Y; ?",
-           "Data changed: Store changed data?\n1 [AB] B|200|200|Line of B|14\n", // not moved: the list keeps the name
-           "Name 100:1, B 200:2"}});
+    tell({100, 200}, 0,
+         "Combo1=Name; date1=100.4; date2=13.5e1; desc=One\r\nTwo\r\nThree; Option2; Option6; cmdNext:Y; ?",
+         "Data changed: Store changed data?\n1 [AB] B|200|200|Line of B|14\n", // not moved: the list keeps the name
+         "Name 100:1, B 200:2");
     EXPECT_EQ(closedwith, ofpeople ? "People Entry" : "Events Entry");
     EXPECT_EQ(visit("Combo1#0; ?"), "0 [NameB] Name|100|135|One\r\nTwo\r\nThree|26\n");
     EXPECT_EQ(item(0).desc1 + '|' + item(0).desc2, "One|Two\r\nThree");
@@ -198,20 +181,16 @@ TEST_P(Editors, AChangedDateMovesTheRecordWithItsMarkAndTheCursorStays)
 TEST_P(Editors, ANewRecordStartsFromTheOneBeforeAndGoesToItsPlace)
 {
     viewonly = 0;
-    const char* asked = "New %: Store new data?\n1 [ABCN] B|200|200|Line of B|14\n";
-    tell(
-        {{{100, 200, 300}, 0, "cmdNew; Combo1=N; cmdNext:Y; ?", asked, "A 100:1, B 200:2, C 300:3, N 100:0"},
-         {{100, 200, 300}, 0, "cmdNew; Combo1=N; date1=900; cmdNext:Y; ?", asked, "A 100:1, B 200:2, C 300:3, N 900:0"},
-         {{100, 200, 300},
-          0,
-          "cmdNew; Combo1=N; date1=200; cmdNext:Y; ?",
-          "New %: Store new data?\n1 [ABNC] B|200|200|Line of B|14\n",
-          "A 100:1, B 200:2, N 200:0, C 300:3"},
-         {{100, 200, 300},
-          0,
-          "cmdNew; Combo1=N; date1=5; cmdNext:Y; ?",
-          "New %: Store new data?\n1 [NABC] A|100|100|Line of A|14\n",
-          "N 5:0, A 100:1, B 200:2, C 300:3"}});
+    const std::vector<std::int16_t> dates = {100, 200, 300};
+    const std::string b = "B|200|200|Line of B|14\n";
+    const auto told = [](const std::string& look) { return "New %: Store new data?\n1 " + look; };
+    tell(dates, 0, "cmdNew; Combo1=N; cmdNext:Y; ?", told("[ABCN] " + b), "A 100:1, B 200:2, C 300:3, N 100:0");
+    tell(dates, 0, "cmdNew; Combo1=N; date1=900; cmdNext:Y; ?", told("[ABCN] " + b),
+         "A 100:1, B 200:2, C 300:3, N 900:0");
+    tell(dates, 0, "cmdNew; Combo1=N; date1=200; cmdNext:Y; ?", told("[ABNC] " + b),
+         "A 100:1, B 200:2, N 200:0, C 300:3");
+    tell(dates, 0, "cmdNew; Combo1=N; date1=5; cmdNext:Y; ?", told("[NABC] A|100|100|Line of A|14\n"),
+         "N 5:0, A 100:1, B 200:2, C 300:3");
     EXPECT_EQ(std::to_string(item(0).live) + std::to_string(item(1).live), "-11");
     EXPECT_EQ(ofpeople ? people.size() : events.size(), 5U); // one slot behind the last
 
@@ -237,14 +216,17 @@ TEST_P(Editors, APendingRecordOutlivesTheTitleBarsClose)
 TEST_P(Editors, DeletesTheRecordAndItsMarkAndLeavesItsFields)
 {
     viewonly = 0;
-    const std::string steps = "cmdDelete; ?; cmdDelete:Y; ?";
-    const std::string asked = "Delete: Delete this %?\n";
-    const auto told = [&asked](const char* fields, const char* before, const char* after) {
-        return asked + before + fields + '\n' + asked + after + fields + '\n';
+    const auto deletes = [this](std::int16_t at, const std::string& fields, const char* before, const char* after,
+                                const char* left) {
+        const std::string asked = "Delete: Delete this %?\n";
+        tell({100, 200, 300}, at, "cmdDelete; ?; cmdDelete:Y; ?",
+             asked + before + "] |" + fields + "|14\n" + asked + after + "] |" + fields + "|14\n", left);
     };
-    tell({{{100, 200, 300}, 0, steps, told("] |100|100|Line of A|14", "0 [ABC", "0 [BC"), "B 200:2, C 300:3"},
-          {{100, 200, 300}, 1, steps, told("] |200|200|Line of B|14", "1 [ABC", "0 [AC"), "A 100:1, C 300:3"},
-          {{100, 200, 300}, 2, steps, told("] |300|300|Line of C|14", "2 [ABC", "1 [AB"), "A 100:1, B 200:2"}});
+    deletes(0, "100|100|Line of A", "0 [ABC", "0 [BC", "B 200:2, C 300:3");
+    deletes(1, "200|200|Line of B", "1 [ABC", "0 [AC", "A 100:1, C 300:3");
+    deletes(2, "300|300|Line of C", "2 [ABC", "1 [AB", "A 100:1, B 200:2");
+    deletes(3, "0|0|", "3 [ABC", "3 [ABC", "A 100:1, B 200:2, C 300:3"); // none at the cursor
+    deletes(-1, "0|0|", "-1 [ABC", "-1 [ABC", "A 100:1, B 200:2, C 300:3");
     // The slot of a deleted last record lends a new one what is not on the screen.
     setrecords({100});
     item(0).desc3 = "Third of A";
@@ -271,9 +253,9 @@ TEST_P(Editors, AStoreWithoutARecordAtTheCursorAddsOne)
     viewonly = 0;
     for (const auto outside : std::initializer_list<std::int16_t>{2, 5, 32767, -1}) {
         const std::string told = std::to_string(outside) + " [AB] |0|0||14\nData changed: Store changed data?\n";
-        tell({{{100, 200}, outside, "?; Combo1=N; date1=150; cmdOK:Y", told, "A 100:1, N 150:0, B 200:2"}});
+        tell({100, 200}, outside, "?; Combo1=N; date1=150; cmdOK:Y", told, "A 100:1, N 150:0, B 200:2");
     }
-    tell({{{}, 0, "Combo1=N; date1=150; cmdOK:Y", "Data changed: Store changed data?\n", "N 150:0"}});
+    tell({}, 0, "Combo1=N; date1=150; cmdOK:Y", "Data changed: Store changed data?\n", "N 150:0");
 }
 
 TEST_P(Editors, AFullTimelineTakesNoMoreAndKeepsWhatWasTyped)
