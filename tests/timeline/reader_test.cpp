@@ -74,6 +74,10 @@ TEST_F(Reader, ReadsEveryFieldInEveryForm)
         EXPECT_EQ(entryname(nations, 2) + entryname(nations, 3) + entryname(nations, 0) + entryname(nations, -1),
                   "England");
     }
+    tests::setnumbered(700, 700);
+    const std::string large = timelinetext(); // more than the reader takes at once
+    EXPECT_EQ(read(large), "");
+    EXPECT_EQ(timelinetext(), large);
     const std::string empty = "0\n0\n\n\n\n0\n\n0\n\n0\n\n0\n"; // Catalogues are cut to their new count
     ASSERT_EQ(read(empty), "");
     EXPECT_EQ(std::to_string(mindate) + ' ' + std::to_string(maxdate), "9999 -25000");

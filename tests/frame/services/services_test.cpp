@@ -13,8 +13,9 @@ class Services : public tests::GameTest {};
 
 TEST_F(Services, ScoreAndLogLinesFollowTheLevel)
 {
-    addscore(0, 1, 0);
-    addscore(2, 2, 1);
+    addscore(1, 1, 0);
+    EXPECT_EQ(players[0].percent, 100);
+    addscore(1, 2, 1);
     EXPECT_EQ(tests::contentof("bdqquiz.log") + tests::said(host),
               "Score: 2 out of 3  66%\r\nScore: 2 out of 3  66%\n");
     for (const char* written : {"", "one\r\ntwo\r\n", "two\r\n"}) {
