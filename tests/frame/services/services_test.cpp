@@ -1,5 +1,6 @@
 #include "base/files.h"
 #include "frame/services/log.h"
+#include "frame/services/placement.h"
 #include "frame/services/score.h"
 #include "frame/services/settings.h"
 #include "support/gametest.h"
@@ -10,6 +11,18 @@
 namespace brindor {
 
 class Services : public tests::GameTest {};
+
+TEST_F(Services, ARestoreStoresNothingOnItsWay)
+{
+    struct Plain : toolkit::Screen {
+    } screen;
+    screen.resize = [&screen] { placeform(screen, 3, storeplacement); };
+    screen.shown = true; // so that each step of the restore raises a resize
+    placements[3] = {2, 77, 5000, 6000};
+    placeform(screen, 3, restoreplacement);
+    EXPECT_EQ(screen.width * 10 + screen.height + screen.windowstate, 65002);
+    EXPECT_EQ(placements[3].backcolor, 77);
+}
 
 TEST_F(Services, ScoreAndLogLinesFollowTheLevel)
 {
