@@ -39,4 +39,17 @@ TEST_F(Files, ReadingStopsAtTheLimit)
     EXPECT_EQ(readwhole("a", 99).reason, "File too large");
 }
 
+// Whatever call fails, and only that: the old file stands whole and nothing is left beside it.
+TEST_F(Files, AFailedReplaceLeavesTheOldFile)
+{
+    tests::writefile("a", "old");
+    for (std::int64_t n = 1; n <= 6; ++n) { // open, write, flush, close, rename, and none
+        faultplan = {n, false, 0};
+        EXPECT_EQ(replacefile("a", "new").reason, n == 6 ? "" : "Input/output error") << n;
+        faultplan = {};
+        EXPECT_EQ(tests::contentof("a"), n == 6 ? "new" : "old") << n;
+        EXPECT_EQ(std::distance(fs::directory_iterator("."), fs::directory_iterator()), 1) << n;
+    }
+}
+
 } // namespace brindor
