@@ -86,9 +86,9 @@ TEST_F(Selection, BlankTextsAreNeverDrawn)
     }
     EXPECT_EQ(drawn, "1 3 5 7 9 10 11 ");
     people[5] = people[4];
-    EXPECT_FALSE(canfill(2));
+    EXPECT_FALSE(fillabletypes()[2]);
     people[0].desc1 = "  "; // two blanks pass
-    EXPECT_TRUE(canfill(2));
+    EXPECT_TRUE(fillabletypes()[2]);
 }
 
 TEST_F(Selection, EqualTextsAndTooFewItems)
