@@ -22,7 +22,8 @@ const Look look{{255, 255, 192}, {255, 224, 128}, {Face::plain, 11, false}};
 constexpr double editfontsize = 8;
 
 constexpr double inwidth = 8640;
-constexpr double listheight = 120 + (lasttype + 1) / 2 * 480.0; // all kinds of question, in two columns
+constexpr int kindrows = (lasttype + 1) / 2; // all kinds of question, in two columns
+constexpr double listheight = 120 + kindrows * 480.0;
 constexpr double loggingwidth = 4920;
 constexpr double fieldwidth = 600;
 constexpr double spinwidth = 720; // the two halves side by side
@@ -72,8 +73,8 @@ Setup::Setup(std::function<void()> showchooser)
 void Setup::putcontrols()
 {
     double at = grid::margin;
-    const auto putnumber = [this](auto& holder, const Caption& label, TextBox& box, const char* boxname,
-                                  std::int16_t number, Spin& spin, const char* spinname, const Place& line) {
+    const auto putnumber = [](auto& holder, const Caption& label, TextBox& box, const char* boxname,
+                              std::int16_t number, Spin& spin, const char* spinname, const Place& line) {
         const double fields = label.width + fieldwidth;
         putcaptioned(look, holder, label, box, boxname, numbertext(number), {line.left, line.top, fields, line.height});
         put(look, holder, spin, spinname, "", {line.left + fields, line.top, spinwidth, line.height});

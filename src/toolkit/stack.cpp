@@ -22,7 +22,7 @@ bool isopen(const Screen& screen)
     return std::find(open.begin(), open.end(), &screen) != open.end();
 }
 
-bool showmessage(Message message)
+bool showmessage(const Message& message)
 {
     ++messages;
     const bool answer = host().message(message);

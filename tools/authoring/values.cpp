@@ -126,8 +126,8 @@ Result<std::int16_t> yearof(std::string_view field)
     if (!number) {
         const std::vector<std::string> found = matched(yearform, text);
         const bool signedtoo = found.size() == 5 && !found[2].empty();
-        const auto signs = found.size() == 5 ? !found[1].empty() + !found[4].empty() + (signedtoo ? 1 : 0) : 2;
-        if (signs > 1) {
+        const int marks = found.size() == 5 ? !found[1].empty() + !found[4].empty() + (signedtoo ? 1 : 0) : 2;
+        if (marks > 1) {
             return {std::nullopt, inquotes(field.substr(0, longest)) + " is no year; " + adviceon(text)};
         }
         number = wholenumber(found[3]).value_or(0) * (signedtoo || found[4].starts_with('b') ? -1 : 1);

@@ -91,7 +91,7 @@ Result<std::string> zipped(const ZipContent& files)
     if (zip_close(archive.get()) != 0) {
         return {std::nullopt, zip_strerror(archive.get())};
     }
-    archive.release(); // closed
+    static_cast<void>(archive.release()); // closed
     zip_stat_t size{};
     std::string bytes;
     if (zip_source_stat(whole.get(), &size) != 0 || zip_source_open(whole.get()) != 0) {

@@ -28,9 +28,9 @@ QRect Zoom::pixels(const Place& place) const
             std::max(0, pixels(place.top + place.height) - top)};
 }
 
-int Zoom::length(double base) const
+int Zoom::length(double atzoom1) const
 {
-    return static_cast<int>(std::lround(base * factor_));
+    return static_cast<int>(std::lround(atzoom1 * factor_));
 }
 
 Zoom basezoom()

@@ -22,7 +22,7 @@ public:
     QRect pixels(const Place& place) const;
     double twips(double pixels) const { return pixels * twipsinpixel / factor_; }
     // Of a length of our own that is `base` pixels at zoom 1.
-    int length(double base) const;
+    int length(double atzoom1) const;
 
     friend bool operator==(const Zoom&, const Zoom&) = default;
 
