@@ -41,4 +41,10 @@ void showwhile(toolkit::Screen& screen, const std::function<void()>& act)
     toolkit::showmodal(screen);
 }
 
+void quitbydesktop()
+{
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+}
+
 } // namespace brindor::tests

@@ -16,4 +16,7 @@ QWidget& widgetof(const toolkit::Control& control);
 // Shows the screen, does the act in its window as soon as that is seen, and closes it.
 void showwhile(toolkit::Screen& screen, const std::function<void()>& act);
 
+// The desktop asks the program to end.
+void quitbydesktop();
+
 } // namespace brindor::tests
