@@ -31,46 +31,36 @@ namespace brindor::tests {
 
 namespace {
 
-class Walker : public QObject {
+// Acts on the window in front, one action a tick.
+class Person : public QObject {
 public:
-    explicit Walker(std::vector<Step> steps) : steps_(std::move(steps)) { arm(); }
+    explicit Person(std::function<void(QWidget&)> act) : act_(std::move(act)) { arm(); }
 
 private:
     void arm()
     {
-        QTimer::singleShot(10, this, [this] { next(); });
+        QTimer::singleShot(5, this, [this] { next(); });
     }
 
+    // A mouse event lets the next tick in; it waits as long as the same window is being acted on. A message that has
+    // just been answered is gone from sight a little before it is over.
     void next()
     {
         arm();
         QWidget* front = QApplication::activeModalWidget();
-        const bool shown = front != nullptr && front->isVisible() && front->windowHandle()->isExposed();
-        if (!shown || front == acting_) {
+        if (front == nullptr || front == acting_ || !front->isVisible() || !front->windowHandle()->isExposed()) {
             return;
         }
-        if (done_ == steps_.size()) {
-            front->close();
-            return;
+        const toolkit::Screen* screen = toolkit::topscreen();
+        if (front->objectName() == "message" ||
+            (screen != nullptr && front->objectName().toStdString() == screen->name)) {
+            QWidget* before = std::exchange(acting_, front);
+            act_(*front);
+            acting_ = before;
         }
-        const Step& step = steps_[done_];
-        if (front->objectName().toStdString() != step.window) {
-            constexpr int patience = 500;
-            if (++waited_ > patience) {
-                ADD_FAILURE() << step.window << " did not come";
-                done_ = steps_.size();
-            }
-            return;
-        }
-        ++done_;
-        QWidget* before = std::exchange(acting_, front);
-        step.act(*front);
-        acting_ = before;
     }
 
-    std::vector<Step> steps_;
-    std::size_t done_ = 0;
-    int waited_ = 0;
+    std::function<void(QWidget&)> act_;
     QWidget* acting_ = nullptr;
 };
 
@@ -103,10 +93,39 @@ std::function<void(QWidget&)> clicks(const std::string& control)
 
 } // namespace
 
-void walk(const std::function<void()>& open, std::vector<Step> steps)
+void walk(const std::function<void()>& open, std::function<void(QWidget& window)> act)
 {
-    const Walker walker(std::move(steps));
+    const Person person(std::move(act));
     open();
+}
+
+void walk(const std::function<void()>& open, const std::vector<Step>& steps)
+{
+    std::size_t done = 0;
+    int waited = 0;
+    walk(open, [&](QWidget& front) {
+        constexpr int patience = 1000;
+        if (done == steps.size()) {
+            front.close();
+        } else if (front.objectName().toStdString() == steps[done].window) {
+            steps[done++].act(front);
+        } else if (++waited > patience) {
+            ADD_FAILURE() << steps[done].window << " did not come";
+            done = steps.size();
+        }
+    });
+}
+
+void mouse(QWidget& window, QPoint from, QPoint to, bool letgo)
+{
+    const QPointer<QWindow> handle = window.windowHandle();
+    QTest::mousePress(handle, Qt::LeftButton, {}, from);
+    for (int step = 1; handle && step <= 4 && from != to; ++step) {
+        QTest::mouseMove(handle, from + (to - from) * step / 4);
+    }
+    if (handle && letgo) {
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, to);
+    }
 }
 
 void click(QWidget& window, const std::string& control)
@@ -116,16 +135,7 @@ void click(QWidget& window, const std::string& control)
 
 void drag(QWidget& window, const std::string& from, const std::string& to, bool letgo)
 {
-    const QPointer<QWindow> handle = window.windowHandle();
-    const QPoint start = middleof(window, from);
-    const QPoint end = middleof(window, to);
-    QTest::mousePress(handle, Qt::LeftButton, {}, start);
-    for (int step = 1; handle && step <= 4 && start != end; ++step) {
-        QTest::mouseMove(handle, start + (end - start) * step / 4);
-    }
-    if (handle && letgo) {
-        QTest::mouseRelease(handle, Qt::LeftButton, {}, end);
-    }
+    mouse(window, middleof(window, from), middleof(window, to), letgo);
 }
 
 std::vector<Exhibit> gallery()

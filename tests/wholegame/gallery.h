@@ -14,9 +14,12 @@ struct Step {
     std::function<void(QWidget&)> act;
 };
 
-// Opens something that waits, does the steps one after the other, then closes all windows that are left. A window
-// that does not come fails the test.
-void walk(const std::function<void()>& open, std::vector<Step> steps);
+// Opens something that waits, and acts again and again on the window that is then in front.
+void walk(const std::function<void()>& open, std::function<void(QWidget& window)> act);
+
+// The same with steps that are done one after the other; then all windows that are left are closed. A window that does
+// not come fails the test.
+void walk(const std::function<void()>& open, const std::vector<Step>& steps);
 
 // Every screen of the game and its messages, with the Timeline that is loaded. The questions are drawn with a fixed
 // seed, so that the same Timeline gives the same pictures.
@@ -30,6 +33,10 @@ std::vector<Exhibit> gallery();
 
 // Shows the exhibit and looks at its window.
 void look(const Exhibit& exhibit, const std::function<void(QWidget& window)>& with);
+
+// Presses the mouse at a place in the window and lets go at another. The press may end the screen, and then nobody lets
+// go of anything in it.
+void mouse(QWidget& window, QPoint from, QPoint to, bool letgo = true);
 
 // A click in the middle of a control, as a mouse does it.
 void click(QWidget& window, const std::string& control);

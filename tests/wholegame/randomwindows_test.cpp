@@ -60,14 +60,3 @@ TEST_F(RandomWindows, NothingThatAUserDoesBringsTheWindowsOutOfOrder)
 }
 
 } // namespace brindor
-
-int main(int argc, char** argv)
-{
-    testing::InitGoogleTest(&argc, argv);
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}
