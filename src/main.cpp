@@ -1,3 +1,4 @@
+#include "base/folders.h"
 #include "base/playerfolder.h"
 #include "frame/mainscreen.h"
 #include "toolkit/operations.h"
@@ -10,7 +11,7 @@ int main(int argc, char** argv)
 {
     using namespace brindor;
     return toolkit::qt::runapplication(argc, argv, [] {
-        const std::string programfolder = toolkit::qt::programfolder();
+        const std::string programfolder = brindor::programfolder();
         const Result<std::string> ready = readyplayerfolder(programfolder);
         const std::string folder = ready.value.value_or(programfolder);
         const toolkit::QtHost host(folder + "/bdqzoom.txt");

@@ -5,6 +5,7 @@
 #include "authoring/summary.h"
 #include "base/folders.h"
 #include "base/playerfolder.h"
+#include "base/program.h"
 #include "base/text.h"
 
 #include <CLI/CLI.hpp>
@@ -87,7 +88,7 @@ int judge(const std::vector<std::string>& targets, std::int64_t questions, std::
 
 int main(int argc, char** argv)
 {
-    CLI::App app("Makes the timelines of the Brindor History Trivia Game from spreadsheets.", "timelinemaker");
+    CLI::App app("Makes the timelines of the " + std::string(titletext) + " from spreadsheets.", "timelinemaker");
     app.require_subcommand(1);
     std::string folder;
     std::string file;
@@ -104,10 +105,9 @@ int main(int argc, char** argv)
         command->add_option("FOLDER", folder, "The folder with people.csv and events.csv")->required();
     };
     const auto takesperiod = [&](CLI::App* command) {
-        command->add_option("PERIOD", period, "Ancient, Classic, Medieval or Modern: the one whose place it takes")
+        command->add_option("PERIOD", period, periodlist("or") + ": the one whose place it takes")
             ->check([](const std::string& word) {
-                return periodnamed(word).empty() ? "the periods are Ancient, Classic, Medieval and Modern"
-                                                 : std::string();
+                return periodnamed(word).empty() ? "the periods are " + periodlist("and") : std::string();
             });
         command->add_option("--game", places.game, "The folder of the game, where it is not found by itself");
     };

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-// What the tools do with whole folders and programs, beside the calls on single files in files.h. Every failure's
-// reason is the system's own text.
+// What is done with whole folders and programs, beside the calls on single files in files.h. Every failure's reason is
+// the system's own text.
 namespace brindor {
 
 // A fresh empty folder for the user alone; removed with all that is in it when it goes out of scope.
@@ -40,7 +40,7 @@ Result<Done> copyfile(const std::string& from, const std::string& into);
 // Puts a link to a folder where `link` says.
 Result<Done> linkfolder(const std::string& folder, const std::string& link);
 
-// The folder of the running program.
+// The folder of the running program, from the root; empty where the system does not tell it.
 std::string programfolder();
 
 // Runs a program to its end; the value is its exit status.

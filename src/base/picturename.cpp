@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/playerfolder.h"
+#include "base/text.h"
 
 #include <algorithm>
 #include <array>
@@ -13,23 +14,12 @@ namespace {
 constexpr std::array<std::string_view, 5> endings = {"png", "jpg", "jpeg", "bmp", "gif"};
 constexpr std::array<std::string_view, 4> beginnings = {"\x89PNG\r\n\x1A\n", "\xFF\xD8\xFF", "BM", "GIF8"};
 
-char lowercase(char c)
-{
-    return c >= 'A' && c <= 'Z' ? "abcdefghijklmnopqrstuvwxyz"[c - 'A'] : c;
-}
-
-bool iscontrol(char c)
-{
-    const auto byte = static_cast<unsigned char>(c);
-    return byte < 0x20 || byte == 0x7F;
-}
+} // namespace
 
 bool liesin(const std::string& path, const std::string& folder)
 {
     return path.starts_with(folder == "/" ? folder : folder + '/');
 }
-
-} // namespace
 
 bool endsin(std::string_view name, std::string_view ending)
 {

@@ -24,6 +24,9 @@ std::string relativenamefault(std::string_view name);
 // into the installed game.
 Result<std::string> picturefile(const std::string& folder, const std::string& name);
 
+// Whether a path lies in a folder or below it. Both are without links, from the root.
+bool liesin(const std::string& path, const std::string& folder);
+
 // Whether the content begins as a PNG, JPEG, BMP or GIF file does.
 bool ispicture(std::string_view content);
 

@@ -62,11 +62,6 @@ constexpr std::array<char32_t, 32> windows1252 = {0x20AC, 0xFFFD, 0x201A, 0x0192
                                                   0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                   0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
 
-bool isdigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 bool issign(char c)
 {
     return c == '+' || c == '-';

@@ -17,6 +17,21 @@ bool isutf8(std::string_view bytes);
 // The text as UTF-8. The five bytes without a meaning in Windows-1252 become U+FFFD.
 std::string toutf8(std::string_view bytes);
 
+// Of ASCII alone: other bytes are no digits and no control characters, and have no lower case.
+inline bool isdigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+inline bool iscontrol(char c)
+{
+    const auto byte = static_cast<unsigned char>(c);
+    return byte < 0x20 || byte == 0x7F;
+}
+inline char lowercase(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 // The length of a text in characters.
 std::size_t charactercount(std::string_view bytes);
 

@@ -49,7 +49,7 @@ bool nothingtoask()
     return true;
 }
 
-// Type 1 takes the draws of 0 too, so it has two chances in 14.
+// Type 1 takes the draws of 0 too, so it has two chances where each other type has one.
 std::int16_t drawtype(const ByType<bool>& fillable)
 {
     for (;;) {

@@ -33,7 +33,7 @@ namespace {
 constexpr double picturewidth = 960;
 constexpr double pictureheight = 640;
 constexpr Place titleplace{190, 44, 580, 64}; // in the cartouche
-constexpr Place versionplace{190, 106, 580, 32};
+constexpr Place versionplace{190, 108, 580, 30};
 constexpr Place creditplace{190, 514, 580, 24}; // below the globes
 constexpr double buttontop = 566;
 constexpr double buttonheight = 42;

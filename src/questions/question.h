@@ -8,8 +8,9 @@
 // stands for an item's name and is never asked. What a type is stands in questions/types.cpp, one row each.
 namespace brindor {
 
-inline constexpr std::int16_t lasttype = 13;  // the number of the last row
-inline constexpr std::int16_t itemsasked = 5; // a question takes the slots 0 to 4 of chosen
+inline constexpr std::int16_t lasttype = 13;                     // the number of the last row
+inline constexpr std::int16_t itemsasked = 5;                    // a question takes the slots 0 to 4 of chosen
+inline constexpr std::int16_t placesoftheright = itemsasked - 1; // of a multiple choice question: never the last
 
 // One slot a type, and one behind the last that stays empty.
 template <class Value>

@@ -12,7 +12,7 @@ enum class ItemKind { any, person, event };
 enum class QuizScreen { none, mchoice, qsort, qmatch };
 
 // A piece of a text: what it says of an item. What stands in no record is put together in `scratch`, which is empty;
-// the piece is good until the next one is asked for.
+// the piece is good until the next one is asked for. An item outside its family counts as an empty record.
 using TextPiece = std::string_view (*)(std::string& scratch, std::int16_t item);
 
 // The pieces of a text in their order, nullptr behind the last; none at all where a type has no such text.

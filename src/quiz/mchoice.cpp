@@ -1,5 +1,6 @@
 #include "quiz/mchoice.h"
 
+#include "base/program.h"
 #include "base/random.h"
 #include "base/text.h"
 #include "frame/services/log.h"
@@ -9,7 +10,6 @@
 #include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/texts.h"
-#include "quiz/result.h"
 #include "quiz/showscor.h"
 #include "toolkit/dress.h"
 #include "toolkit/operations.h"
@@ -22,7 +22,6 @@ using namespace toolkit;
 
 namespace {
 
-constexpr std::int16_t placesoftheright = 4; // one fewer than there are choices
 constexpr std::int16_t worth = 5;
 
 } // namespace
@@ -33,7 +32,7 @@ Mchoice::Mchoice()
     const Look look{{192, 255, 192}, {255, 255, 0}, {Face::plain, 12, true}};
 
     name = "mchoice";
-    caption = "Quorvel Mind Tourney";
+    caption = quizcaption;
     back = look.surface;
 
     put(look, *this, frame1, "Frame1", " ", {40, 25, 11920, 8950});
@@ -89,7 +88,7 @@ void Mchoice::answer(std::int16_t i)
         markused(chosen[static_cast<std::size_t>(i)], wrongmark);
         markused(askeditem, wrongmark);
     } else {
-        settext(showscor.text1, " Correct, +5 pts");
+        settext(showscor.text1, " Correct, +" + numbertext(worth) + " pts");
         addscore(worth, worth, 0);
         markused(askeditem, rightmark);
     }

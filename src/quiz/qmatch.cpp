@@ -10,7 +10,6 @@
 #include "questions/question.h"
 #include "questions/selection.h"
 #include "questions/texts.h"
-#include "quiz/result.h"
 #include "quiz/showscor.h"
 #include "toolkit/dress.h"
 #include "toolkit/operations.h"

@@ -1,6 +1,7 @@
 #include "quiz/qsort.h"
 
 #include "base/numbers.h"
+#include "base/program.h"
 #include "base/text.h"
 #include "frame/services/log.h"
 #include "frame/services/placement.h"
@@ -10,7 +11,6 @@
 #include "questions/selection.h"
 #include "questions/sortvalues.h"
 #include "questions/texts.h"
-#include "quiz/result.h"
 #include "quiz/showscor.h"
 #include "toolkit/dress.h"
 #include "toolkit/operations.h"
@@ -39,7 +39,7 @@ Qsort::Qsort()
     const Look look{{128, 255, 255}, {0, 255, 255}, {Face::plain, 13.5, false}, {192, 192, 192}};
 
     name = "qsort";
-    caption = "Quorvel Mind Tourney";
+    caption = quizcaption;
     back = look.surface;
 
     // The list fills the screen; the frame stands in the middle of what is outside the title bar as well.

@@ -1,8 +1,10 @@
 #include "quiz/showscor.h"
 
+#include "base/program.h"
 #include "base/text.h"
 #include "frame/services/placement.h"
 #include "frame/services/score.h"
+#include "questions/question.h"
 #include "toolkit/dress.h"
 #include "toolkit/operations.h"
 
@@ -15,7 +17,7 @@ Showscor::Showscor()
     const Look look{{255, 128, 0}, {0, 255, 0}, {Face::plain, 13.5, false}, {255, 255, 0}};
 
     name = "showscor";
-    caption = "Quorvel Mind Tourney Scores";
+    caption = std::string(quizcaption) + " Scores";
     back = look.surface;
     escapecloses = true;
     defaultbutton = &command1;
@@ -46,6 +48,14 @@ void Showscor::scoreCaption()
     const PlayerRec& player = players[static_cast<std::size_t>(curplayer)];
     settext(label2, "Current score: " + numbertext(player.right) + " of " + numbertext(player.asked) + "  (" +
                         numbertext(player.percent) + "%)");
+}
+
+void showresult(Showscor& showscor, const std::string& heading, toolkit::Screen& quizscreen)
+{
+    showscor.scoreCaption();
+    settext(showscor.label1, heading + typenames[static_cast<std::size_t>(qtype)]);
+    showmodal(showscor);
+    closescreen(quizscreen);
 }
 
 } // namespace brindor

@@ -2,6 +2,8 @@
 
 #include "toolkit/controls.h"
 
+#include <string>
+
 namespace brindor {
 
 // The score screen after every answered question. The quiz screen writes `text1` and `label1`, calls scoreCaption
@@ -17,5 +19,9 @@ struct Showscor : toolkit::Screen {
     toolkit::Button command1;
     toolkit::Label label2; // the score line
 };
+
+// The end of every answered question: writes the heading (`heading` and the type's name) and the score line, shows
+// the score screen, and closes the quiz screen when that has closed.
+void showresult(Showscor& showscor, const std::string& heading, toolkit::Screen& quizscreen);
 
 } // namespace brindor

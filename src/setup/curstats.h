@@ -22,6 +22,7 @@ private:
     void open();
 };
 
+// Shows the figures and returns when the screen has closed.
 void showstatistics();
 
 } // namespace brindor

@@ -60,7 +60,7 @@ Setup::Setup(std::function<void()> showchooser)
     unload = [this] { keep(); };
     nquestion.change = [this] { limittyped(); };
     nquestion.leave = [this] { settext(nquestion, numbertext(questions(nquestion.text))); };
-    tmindif.change = [this] { settext(tmindif, limited(tmindif.text, 1, textvalue(tmaxdif.text))); };
+    tmindif.change = [this] { settext(tmindif, limited(tmindif.text, lowestdifficulty, textvalue(tmaxdif.text))); };
     tmaxdif.change = [this] { settext(tmaxdif, limited(tmaxdif.text, textvalue(tmindif.text), highestdifficulty)); };
     for (std::size_t i = 0; i < option1.size(); ++i) {
         option1[i].click = [i] { logstatus = index16(static_cast<std::int64_t>(i)); };
@@ -73,15 +73,15 @@ void Setup::putcontrols()
 {
     double at = grid::margin;
     const auto putnumber = [this](auto& holder, const Caption& label, TextBox& box, const char* boxname,
-                                  const char* text, Spin& spin, const char* spinname, const Place& line) {
+                                  std::int16_t number, Spin& spin, const char* spinname, const Place& line) {
         const double fields = label.width + fieldwidth;
-        putcaptioned(look, holder, label, box, boxname, text, {line.left, line.top, fields, line.height});
+        putcaptioned(look, holder, label, box, boxname, numbertext(number), {line.left, line.top, fields, line.height});
         put(look, holder, spin, spinname, "", {line.left + fields, line.top, spinwidth, line.height});
         spin.buddy = &box;
         spin.says = box.says;
     };
-    putnumber(*this, {label4, "Label4", "Number of questions per game", 3360}, nquestion, "nquestion", "5", updown1,
-              "UpDown1", {grid::margin, at, inwidth, grid::row});
+    putnumber(*this, {label4, "Label4", "Number of questions per game", 3360}, nquestion, "nquestion", usualquestions,
+              updown1, "UpDown1", {grid::margin, at, inwidth, grid::row});
 
     at += grid::row + grid::margin;
     put(look, *this, label1, "Label1", "Kinds of question", {grid::margin, at, inwidth, grid::row});
@@ -108,10 +108,10 @@ void Setup::putcontrols()
     framediff.border = true;
     const Place first = optionplace(0, sidewidth);
     const double captionwidth = first.width - fieldwidth - spinwidth;
-    putnumber(framediff, {label5, "Label5", "Minimum", captionwidth}, tmindif, "tmindif", "1", updown2, "UpDown2",
-              first);
-    putnumber(framediff, {label6, "Label6", "Maximum", captionwidth}, tmaxdif, "tmaxdif", "1", updown3, "UpDown3",
-              optionplace(1, sidewidth));
+    putnumber(framediff, {label5, "Label5", "Minimum", captionwidth}, tmindif, "tmindif", lowestdifficulty, updown2,
+              "UpDown2", first);
+    putnumber(framediff, {label6, "Label6", "Maximum", captionwidth}, tmaxdif, "tmaxdif", lowestdifficulty, updown3,
+              "UpDown3", optionplace(1, sidewidth));
 
     const double bottom = at + height1 - grid::buttonheight;
     const double right = grid::margin + inwidth;

@@ -21,5 +21,8 @@ constexpr const FaceFamilies& familiesof(Face face)
 {
     return families[static_cast<std::size_t>(face)];
 }
+static_assert(familiesof(Face::plain).face == Face::plain && familiesof(Face::heading).face == Face::heading &&
+                  familiesof(Face::reading).face == Face::reading,
+              "one row a typeface, in their order");
 
 } // namespace brindor::toolkit

@@ -44,12 +44,9 @@ void stepped(Spin& spin, int step)
     settext(*spin.buddy, numbertext(std::clamp(number, spin.low, spin.high)));
 }
 
-// Letters beyond ASCII stay as they are.
-std::string lowercase(std::string text)
+std::string lowered(std::string text)
 {
-    std::transform(text.begin(), text.end(), text.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    });
+    std::transform(text.begin(), text.end(), text.begin(), lowercase);
     return text;
 }
 
@@ -57,7 +54,7 @@ std::string lowercase(std::string text)
 // whatever the case of the letters. -1 for none.
 std::int16_t linemeant(const std::vector<std::string>& lines, const std::string& text)
 {
-    const std::string wanted = lowercase(text);
+    const std::string wanted = lowered(text);
     if (wanted.empty()) {
         return -1;
     }
@@ -69,7 +66,7 @@ std::int16_t linemeant(const std::vector<std::string>& lines, const std::string&
         if (lines[i] == text) {
             return index16(at);
         }
-        const std::string line = lowercase(lines[i]);
+        const std::string line = lowered(lines[i]);
         same = same < 0 && line == wanted ? at : same;
         if (line.find(wanted) != std::string::npos) {
             holding = at;

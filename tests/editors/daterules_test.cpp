@@ -1,73 +1,39 @@
 #include "editors/daterules.h"
 
+#include "support/story.h"
+
 #include <gtest/gtest.h>
 
 namespace brindor {
 
+// What is typed, and what it becomes in the person editor and in the event editor.
 TEST(DateRules, TheFirstDate)
 {
-    const struct {
-        const char* typed;
-        const char* person;
-        const char* event;
-    } cases[] = {{"1066", "1066", "1066"},
-                 {"-20000", "-20000", "-20000"},
-                 {"10000", "10000", "10000"},
-                 {"-20001", "-20000", "-20000"},
-                 {"10001", "10000", "10000"},
-                 {"abc", "0", "0"},
-                 {"", "0", "0"},
-                 {"-", "0", "0"},
-                 {"12abc", "12", "12"},
-                 {"1 066", "1066", "1066"},
-                 {"44 BC", "44", "44"},
-                 {"-44", "-44", "-44"},
-                 {"1e3", "1000", "1000"},
-                 {"&H10", "16", "16"},
-                 {"1066.5", "1066.5", "1066"},
-                 {"1067.5", "1067.5", "1068"},
-                 {"12.50", "12.5", "12"},
-                 {"1e30", "10000", "10000"},
-                 {"-1e30", "-20000", "-20000"},
-                 {"40000", "10000", "10000"},
-                 {"-40000", "-20000", "-20000"},
-                 {"10000.4", "10000", "10000"},
-                 {"1,5", "1", "1"},
-                 {"-0.4", "-0.4", "0"},
-                 {"007", "7", "7"}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(persondates.date1(c.typed), c.person) << c.typed;
-        EXPECT_EQ(eventdates.date1(c.typed), c.event) << c.typed;
+    const std::string table =
+        "1066|1066|1066; -20000|-20000|-20000; 10000|10000|10000; -20001|-20000|-20000; 10001|10000|10000; abc|0|0; "
+        "|0|0; -|0|0; 12abc|12|12; 1 066|1066|1066; 44 BC|44|44; -44|-44|-44; 1e3|1000|1000; &H10|16|16; "
+        "1066.5|1066.5|1066; 1067.5|1067.5|1068; 12.50|12.5|12; 1e30|10000|10000; -1e30|-20000|-20000; "
+        "40000|10000|10000; -40000|-20000|-20000; 10000.4|10000|10000; 1,5|1|1; -0.4|-0.4|0; 007|7|7";
+    for (const std::string& row : tests::split(table, "; ")) {
+        const std::string typed = tests::split(row, "|").front();
+        EXPECT_EQ(typed + '|' + persondates.date1(typed) + '|' + eventdates.date1(typed), row);
     }
 }
 
+// The first date, what is typed for the second, and what that becomes. Below the first it becomes a copy of the
+// first's text in one editor and its rounded value in the other; only the person editor has a lowest second date.
 TEST(DateRules, TheSecondDateAgainstTheFirst)
 {
-    const struct {
-        const char* date1;
-        const char* typed;
-        const char* person;
-        const char* event;
-    } cases[] = {
-        {"500", "600", "600", "600"},
-        {"500", "500", "500", "500"},
-        {"500", "400", "500", "500"},
-        {"500.5", "400", "500.5", "500"},
-        {"501.5", "400", "501.5", "502"},
-        {"500.5", "500.25", "500.5", "500"}, // 500 is below 500.5, which rounds to 500
-        {"500", "20000", "10000", "10000"},
-        {"500", "1e30", "10000", "10000"},
-        {"20000", "600", "10000", "10000"},
-        {"-20000", "-20001", "-20000", "-20000"},
-        {"-25000", "-22000", "-20000", "-22000"}, // only the person editor has a limit of its own
-        {"-25000", "-40000", "-20000", "-25000"},
-        {"1e30", "5", "10000", "10000"},
-        {"-44", "x", "0", "0"},
-        {"44 BC", "12", "44 BC", "44"} // a copy of the text as it stands
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(persondates.date2(c.date1, c.typed), c.person) << c.date1 << ' ' << c.typed;
-        EXPECT_EQ(eventdates.date2(c.date1, c.typed), c.event) << c.date1 << ' ' << c.typed;
+    const std::string table =
+        "500|600|600|600; 500|500|500|500; 500|400|500|500; 500.5|400|500.5|500; 501.5|400|501.5|502; "
+        "500.5|500.25|500.5|500; 500|20000|10000|10000; 500|1e30|10000|10000; 20000|600|10000|10000; "
+        "-20000|-20001|-20000|-20000; -25000|-22000|-20000|-22000; -25000|-40000|-20000|-25000; 1e30|5|10000|10000; "
+        "-44|x|0|0; 44 BC|12|44 BC|44";
+    for (const std::string& row : tests::split(table, "; ")) {
+        const std::vector<std::string> cells = tests::split(row, "|");
+        EXPECT_EQ(cells[0] + '|' + cells[1] + '|' + persondates.date2(cells[0], cells[1]) + '|' +
+                      eventdates.date2(cells[0], cells[1]),
+                  row);
     }
 }
 

@@ -1,52 +1,23 @@
-#include "editortest.h"
-
+#include "editors/eentry.h"
 #include "editors/imgdisp.h"
+#include "editors/pentry.h"
+#include "support/programtest.h"
+#include "support/story.h"
+#include "support/timelines.h"
 
 namespace brindor {
 
 using namespace toolkit;
 
 // The fields that only one of the editors has.
-class PEntryTest : public tests::EditorTest<tests::People> {};
-
-TEST_F(PEntryTest, FactionAndOccupation)
-{
-    setrecords({100, 200});
-    people[0].faction = 2;
-    people[0].occupation = 9; // outside the Catalogue
-    viewonly = 0;
-    visit([this](PEntry& s) {
-        EXPECT_EQ(s.cbofaction.lines, (std::vector<std::string>{"Faction 1", "Faction 2", "Faction 3"}));
-        EXPECT_EQ(s.cbooccupation.lines.size(), 3U);
-        EXPECT_EQ(s.cbofaction.text + '|' + s.cbooccupation.text, "Faction 2|");
-        usertype(s.cbofaction, "typed");
-        userclick(s.cmdnext);
-        EXPECT_EQ(said(), ""); // what is typed there is ignored
-        EXPECT_EQ(s.cbofaction.text, "");
-        userclick(s.cmdprev);
-        userpick(s.cbofaction, 2);
-        usertype(s.cbofaction, "typed");
-        host.answers = {true};
-        userclick(s.cmdnext);
-        EXPECT_EQ(said(), "Data changed: Store changed data?\n");
-        userpick(s.cbooccupation, 0);
-        usertype(s.cbofaction, "typed");
-        userclick(s.cmdnew); // No; then the texts of what was picked last
-        EXPECT_EQ(s.cbofaction.text + '|' + s.cbooccupation.text, "|Occupation 1");
-        host.answers = {true};
-        userclick(s.cmdok);
-    });
-    EXPECT_EQ(people[0].faction, 3);
-    EXPECT_EQ(people[0].occupation, 9);
-    EXPECT_EQ(people[1].occupation, 0);
-    EXPECT_EQ(people[2].name + std::to_string(people[2].occupation), "?1");
-}
-
-class EEntryTest : public tests::EditorTest<tests::Events> {
+class OwnFields : public tests::ProgramTest {
 protected:
-    EEntryTest()
+    OwnFields()
     {
-        setrecords({100, 200, 300});
+        RecordEditor<PersonFamily>::newentry = RecordEditor<EventFamily>::newentry = 0;
+        tests::setnumbered(2, 3);
+        tests::setcatalogues({"F1", "F2", "F3"}, {"O1", "O2"}, {"G1", "G2", "G3"}, {"N1", "N2", "N3"});
+        people[0].occupation = 9; // outside the Catalogue
         events[0].imagename = "a.png";
         events[0].imagesize1 = 640;
         events[0].imagesize2 = 480;
@@ -55,143 +26,125 @@ protected:
         host.pictures = {{"a.png", 0}, {"b.png", 0}};
     }
 
-    static std::string picturerow(const EEntry& s)
+    // A list's text and lines.
+    static std::string all(const Combo& combo)
     {
-        const auto field = [](const Control& control) { return control.visible ? control.text : "-"; };
-        return s.eimgname.text + '|' + field(s.label3) + '|' + field(s.text2) + '|' + field(s.text3) + '|' +
-               (!s.eimage.visible   ? "-"
-                : !s.eimage.picture ? "none"
-                                    : *std::static_pointer_cast<const std::string>(s.eimage.picture->pixels));
+        std::string text = combo.text + '<';
+        for (const std::string& line : combo.lines) {
+            text += line;
+        }
+        return text + "> ";
+    }
+    static std::string ifseen(const Control& control) { return (control.visible ? control.text : "-") + '|'; }
+
+    template <class Editor>
+    std::string visit(const std::string& story)
+    {
+        std::string transcript;
+        host.persons["PEntry"] = host.persons["eEntry"] = [&](Screen& screen) {
+            auto& s = static_cast<Editor&>(screen);
+            EXPECT_TRUE(s.width <= 1024 * 15 && s.height <= 700 * 15);
+            transcript = act(host, screen, story, [&] {
+                const std::string dates = s.date1.text + '|' + s.date2.text + ' ';
+                if constexpr (std::is_same_v<Editor, PEntry>) {
+                    return dates + all(s.cbofaction) + all(s.cbooccupation);
+                } else {
+                    const auto& picture = s.eimage.picture;
+                    return dates + all(s.cbogroup) + all(s.cbonation1) + all(s.cbonation2) + s.eimgname.text + '|' +
+                           ifseen(s.label3) + ifseen(s.text2) + ifseen(s.text3) +
+                           (!s.eimage.visible ? "-" : *std::static_pointer_cast<const std::string>(picture->pixels));
+                }
+            });
+            userclose(screen);
+        };
+        std::is_same_v<Editor, PEntry> ? showpeople() : showevents();
+        return transcript;
     }
 };
 
-TEST_F(EEntryTest, ThePictureRow)
+// What is typed into a Catalogue's list is ignored; what is picked is offered to be stored.
+TEST_F(OwnFields, APersonsFactionOccupationAndDates)
 {
-    const std::string failed = "Brindor Trivia Game: missing.png  53\n";
-    visit([&](EEntry& s) {
-        EXPECT_EQ(picturerow(s), "a.png|Size|640|480|a.png");
-        userclick(s.cmdnext);
-        EXPECT_EQ(picturerow(s), " |-|-|-|-");
-        userclick(s.cmdnext);
-        EXPECT_EQ(picturerow(s), " |Size|0|0|-"); // hidden by the event before
-        EXPECT_EQ(said(), failed);
-        userpick(s.combo1, 0);
-        EXPECT_EQ(picturerow(s), "a.png|Size|640|480|a.png");
-        userpick(s.combo1, 2);
-        EXPECT_EQ(picturerow(s), " |Size|0|0|a.png"); // the former picture stays
-        EXPECT_EQ(said(), failed);
-        usertype(s.eimgname, "b.png");
-        EXPECT_EQ(picturerow(s), "b.png|Size|0|0|a.png"); // nothing is loaded while typing
-        events[1].imagename.clear();
-        userpick(s.combo1, 1);
-        EXPECT_EQ(picturerow(s), "|-|-|-|-");
-        host.pictures["missing.png"] = -7;
-        userpick(s.combo1, 2);
-        EXPECT_EQ(said(), "Brindor Trivia Game: missing.png -7\n");
-    });
+    viewonly = 0;
+    EXPECT_EQ(visit<PEntry>("?; cboFaction=typed; cmdNext; ?; cmdPrev; cboFaction#2; cboFaction=typed; cmdNext:Y; "
+                            "cboOccupation#0; cboFaction=typed; cmdNew; ?; cmdOK:Y"),
+              "1000|1005 F1<F1F2F3> <O1O2> \n1010|1015 F2<F1F2F3> O2<O1O2> \nData changed: Store changed data?\n"
+              "Data changed: Store changed data?\n1010|1010 F2<F1F2F3> O1<O1O2> \nNew person: Store new data?\n");
+    EXPECT_EQ(people[0].faction, 3);
+    EXPECT_EQ(people[0].occupation, 9);
+    EXPECT_EQ(people[1].occupation, 2);
+    EXPECT_EQ(people[2].name + std::to_string(people[2].faction) + std::to_string(people[2].occupation), "?21");
+    const std::string lists = " F3<F1F2F3> <O1O2> \n";
+    EXPECT_EQ(visit<PEntry>("cmdPrev; date1=500.5; date2; ?; date2=400; Option2; ?; date1=600; desc; ?"),
+              "500.5|1005" + lists + "500.5|500.5" + lists + "600|500.5" + lists);
+}
+
+TEST_F(OwnFields, AnEventsPictureRowFollowsTheRecordAndAFailedPictureIsTold)
+{
+    const std::string failed = "missing.png  53\n";
+    const std::string first = "-500|-500 G1<G1G2G3> N1<N1N2N3> N1<N1N2N3> ";
+    const std::string third = "-480|-480 G3<G1G2G3> N3<N1N2N3> N3<N1N2N3> ";
+    EXPECT_EQ(visit<EEntry>("?; cmdNext; ?; cmdNext; ?; Combo1#0; ?; Combo1#2; ?; eImgName=b.png; ?"),
+              first + "a.png|Size|640|480|a.png\n-490|-490 G2<G1G2G3> N2<N1N2N3> N2<N1N2N3>  |-|-|-|-\n" + failed +
+                  third + " |Size|0|0|-\n" + // hidden by the event before
+                  first + "a.png|Size|640|480|a.png\n" + failed + third + " |Size|0|0|a.png\n" + // the former one stays
+                  third + "b.png|Size|0|0|a.png\n"); // nothing is loaded while typing
     EXPECT_EQ(events[2].imagename, "missing.png");
+    events[0].imagename.clear();
+    host.pictures["missing.png"] = -7;
+    EXPECT_EQ(visit<EEntry>("Combo1#0; ?; Combo1#2"), "missing.png -7\n" + first + "|-|-|-|-\nmissing.png -7\n");
 }
 
-TEST_F(EEntryTest, StoresItsOwnFields)
+TEST_F(OwnFields, AnEventsFieldsAreStoredAndOfferedToTheNext)
 {
-    const struct {
-        const char* size1;
-        const char* size2;
-        std::int16_t stored1;
-        std::int16_t stored2;
-    } cases[] = {{"320", "240", 320, 240}, {"12.5", "13.5", 12, 14}, {"x", "", 0, 0}, {"99999", "-1e9", 32767, -32768}};
+    const std::tuple<std::string, std::int16_t, std::int16_t> cases[] = {{"Text2=320; Text3=240", 320, 240},
+                                                                         {"Text2=12.5; Text3=13.5", 12, 14},
+                                                                         {"Text2=x; Text3=", 0, 0},
+                                                                         {"Text2=99999; Text3=-1e9", 32767, -32768}};
     viewonly = 0;
-    for (const auto& c : cases) {
+    for (const auto& [sizes, stored1, stored2] : cases) {
         curevent = 0;
-        host.answers = {true};
-        visit([&](EEntry& s) {
-            EXPECT_EQ(s.cbogroup.lines, (std::vector<std::string>{"Group 1", "Group 2", "Group 3"}));
-            EXPECT_EQ(s.cbonation1.lines, (std::vector<std::string>{"Nation 1", "Nation 2", "Nation 3"}));
-            EXPECT_EQ(s.cbonation2.lines, s.cbonation1.lines);
-            userpick(s.cbogroup, 0);
-            userpick(s.cbonation1, 1);
-            userpick(s.cbonation2, 2);
-            usertype(s.text2, c.size1);
-            usertype(s.text3, c.size2);
-            userclick(s.cmdnext);
-            userclick(s.cmdprev);
-            EXPECT_EQ(s.cbogroup.text + s.cbonation1.text + s.cbonation2.text, "Group 1Nation 2Nation 3");
-        });
-        EXPECT_EQ(events[0].imagesize1, c.stored1);
-        EXPECT_EQ(events[0].imagesize2, c.stored2);
+        EXPECT_EQ(visit<EEntry>(sizes + "; cboGroup#0; cboNation1#1; cboNation2#2; cmdNext:Y"),
+                  "Data changed: Store changed data?\n");
+        EXPECT_EQ(events[0].imagesize1, stored1);
+        EXPECT_EQ(events[0].imagesize2, stored2);
     }
-    EXPECT_EQ(events[0].imagename, "a.png");
-}
-
-TEST_F(EEntryTest, WhichChangesCount)
-{
-    viewonly = 0;
-    curevent = 0;
-    visit([this](EEntry& s) {
-        usertype(s.text2, "1");
-        usertype(s.text3, "1");
-        userclick(s.cmdnext);
-        EXPECT_EQ(said(), "");
-        usertype(s.eimgname, "b.png");
-        host.answers = {true};
-        userclick(s.cmdprev);
-        EXPECT_EQ(said(), "Data changed: Store changed data?\n");
-    });
-    EXPECT_EQ(events[1].imagename, "b.png");
-}
-
-TEST_F(EEntryTest, ANewEventOffersThePictureOfTheOneBefore)
-{
-    viewonly = 0;
-    host.answers = {true};
-    visit([](EEntry& s) {
-        userclick(s.cmdnew);
-        userclick(s.cmdok);
-    });
-    EXPECT_EQ(events[3].imagename + ' ' + std::to_string(events[3].imagesize1), "a.png 640");
-    // The blank that a failed picture leaves is stored too.
-    curevent = 2;
-    host.answers = {true};
-    visit([](EEntry& s) {
-        usertype(s.desc, "x");
-        userclick(s.cmdok);
-    });
+    EXPECT_EQ(events[0].group * 100 + events[0].nation1 * 10 + events[0].nation2, 123);
+    curevent = 0; // the two sizes alone are not offered, the picture's name is; a new event offers the last picture
+    EXPECT_EQ(visit<EEntry>("Text2=1; Text3=1; cmdNext; cmdPrev; eImgName=b.png; cmdNext:Y; cmdPrev; cmdNew; cmdOK:Y"),
+              "Data changed: Store changed data?\nNew event: Store new data?\n");
+    EXPECT_EQ(events[0].imagename + ' ' + events[3].imagename + std::to_string(events[3].imagesize1),
+              "b.png b.png32767");
+    curevent = 2; // the blank that a failed picture leaves is stored too
+    visit<EEntry>("desc=x; cmdOK:Y");
     EXPECT_EQ(events[2].imagename, " ");
+    curevent = 0;
+    EXPECT_EQ(visit<EEntry>("date1=500.5; date2; date2=400; desc; ?").substr(0, 8), "500|500 ");
 }
 
-TEST_F(EEntryTest, WithoutANationNewAndDeleteStay)
+TEST_F(OwnFields, NewAndDeleteOfTheEventsAreLockedWithTheNationsAlone)
 {
-    tests::setcatalogues({}, {}, {"Group 1"}, {});
-    visit([](EEntry& s) { EXPECT_TRUE(s.cmdnew.visible && s.cmdnew.enabled && s.cmddelete.visible); });
+    EXPECT_EQ(visit<EEntry>("cmdNew; cmdDelete"), "!cmdNew\n!cmdDelete\n");
+    nnations = 0;
+    EXPECT_EQ(visit<EEntry>("cmdNew; cmdDelete"), "Delete: Delete this event?\n");
 }
 
-TEST_F(EEntryTest, TheViewer)
+TEST_F(OwnFields, TheViewerFillsItsWindowAndClosesUnseenWithoutAPicture)
 {
-    host.persons["ImgDisp"] = [](Screen& screen) {
-        const auto& viewer = static_cast<ImgDisp&>(screen);
-        const auto size = [&viewer] {
-            EXPECT_TRUE(viewer.image1.visible);
-            return std::pair(viewer.image1.place.width, viewer.image1.place.height);
-        };
-        EXPECT_EQ(viewer.caption, "");
-        EXPECT_EQ(size(), std::pair(screen.width - 60, screen.height - 100));
-        userresize(screen, 1500, 9000, normal);
-        EXPECT_EQ(size(), std::pair(1440.0, 8900.0));
-        userresize(screen, 60, 5000, normal);
-        userresize(screen, 5000, 100, normal);
-        EXPECT_EQ(size(), std::pair(1440.0, 8900.0)); // too small to show anything
-        userresize(screen, 61, 101, normal);
-        EXPECT_EQ(size(), std::pair(1.0, 1.0));
+    std::string sizes;
+    host.persons["ImgDisp"] = [&](Screen& screen) {
+        const auto& image = static_cast<ImgDisp&>(screen).image1;
+        const std::pair<double, double> windows[] = {{12001, 9000}, {1500, 9000}, {60, 5000}, {5000, 100}, {61, 101}};
+        for (const auto& [width, height] : windows) { // two are too small to show anything
+            userresize(screen, width, height, normal);
+            sizes += std::to_string(static_cast<int>(image.place.width)) + 'x' +
+                     std::to_string(static_cast<int>(image.place.height)) + ' ';
+            EXPECT_TRUE(image.visible);
+        }
         EXPECT_TRUE(userescape(screen));
     };
-    visit([this](EEntry& s) {
-        userclick(s.eimage);
-        EXPECT_EQ(viewimagename, "a.png");
-        usertype(s.eimgname, "gone.png");
-        userclick(s.eimage);
-        EXPECT_EQ(said(), "Brindor Trivia Game: gone.png  53\n");
-        EXPECT_FALSE(s.closed);
-    });
+    EXPECT_EQ(visit<EEntry>("Eimage; eImgName=gone.png; Eimage"), "gone.png  53\n");
+    EXPECT_EQ(sizes, "11941x8900 1440x8900 1440x8900 1440x8900 1x1 ");
     EXPECT_EQ(host.shown, (std::vector<std::string>{"eEntry", "ImgDisp"}));
 }
 

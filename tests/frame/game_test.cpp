@@ -2,14 +2,12 @@
 
 #include "base/files.h"
 #include "frame/mainscreen.h"
-#include "frame/services/score.h"
 #include "frame/services/settings.h"
 #include "quiz/mchoice.h"
 #include "support/quiztest.h"
-#include "timeline/reader.h"
+#include "support/story.h"
 #include "timeline/writer.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <numeric>
@@ -18,7 +16,7 @@ namespace brindor {
 
 using namespace toolkit;
 using tests::contentof;
-using tests::find;
+using tests::said;
 using tests::writefile;
 
 class Game : public tests::QuizTest {
@@ -27,29 +25,45 @@ protected:
     {
         tests::setnumbered(30, 30);
         for (const char* name : {"mchoice", "qsort", "qmatch"}) {
-            host.persons[name] = [](Screen& screen) { userclose(screen); };
+            host.persons[name] = [this](Screen& screen) {
+                ++counts[qtype];
+                userclose(screen);
+            };
         }
     }
 
-    void enableonly(const std::vector<std::int16_t>& types)
+    static void enableonly(const std::vector<std::size_t>& types)
     {
         typeenabled.fill(0);
-        for (const std::int16_t type : types) {
-            typeenabled[static_cast<std::size_t>(type)] = -1;
+        for (const std::size_t type : types) {
+            typeenabled[type] = -1;
         }
     }
 
-    void answerwrong()
+    // Plays the questions of mchoice with answers that are all right or all wrong.
+    void answer(bool right)
     {
-        host.persons["mchoice"] = [](Screen& s) { userpress(find<OptionButton>(s, "choice(4)")); };
-    }
-    void answerright()
-    {
-        host.persons["mchoice"] = [](Screen& s) {
+        host.persons["mchoice"] = [right](Screen& s) {
             auto& m = static_cast<Mchoice&>(s);
-            userpress(m.choice[static_cast<std::size_t>(m.rightchoice)]);
+            userpress(m.choice[right ? static_cast<std::size_t>(m.rightchoice) : 4]);
         };
     }
+
+    // Tells a story on the main screen, and quits.
+    std::string run(const std::string& story, const std::function<std::string()>& look)
+    {
+        std::string transcript;
+        host.persons["main"] = [&](Screen& screen) {
+            transcript = said(host);
+            transcript += act(host, screen, story, look);
+            userclose(screen);
+        };
+        MainScreen screen(folder.path().string());
+        showmodal(screen);
+        return transcript + said(host);
+    }
+
+    std::map<std::int16_t, int> counts; // questions of each type
 };
 
 TEST_F(Game, EveryTypeHasItsScreen)
@@ -65,46 +79,27 @@ TEST_F(Game, EveryTypeHasItsScreen)
               "- - mchoice mchoice qmatch qmatch qmatch qsort mchoice mchoice qmatch qmatch qmatch mchoice qsort - ");
 }
 
-TEST_F(Game, OfWrongAndRightAndSkippedQuestions)
+TEST_F(Game, CountsItsQuestionsFromNoughtAndLogsThem)
 {
     enableonly({1, 2, 7, 8, 12});
-    answerwrong();
+    answer(false);
     playgame();
-    EXPECT_EQ(host.messages.back().text, "You scored 0 out of 25 (0%)");
-    EXPECT_EQ(host.messages.back().title, "Brindor Trivia Game");
-    answerright();
+    answer(true);
     nquestion = 10;
-    playgame(); // starts from 0 again
-    EXPECT_EQ(host.messages.back().text, "You scored 50 out of 50 (100%)");
-    EXPECT_EQ(host.messages.size(), 2U);
-    host.persons["mchoice"] = [](Screen& s) { userclick(find<Button>(s, "Command1")); };
-    nquestion = 1;
-    host.shown.clear();
-    playgame(); // the percentage stays what it was
-    EXPECT_EQ(host.messages.back().text, "You scored 0 out of 0 (100%)");
-    EXPECT_EQ(host.shown, std::vector<std::string>{"mchoice"});
-}
-
-TEST_F(Game, LogsTheQuestionsByLevel)
-{
-    enableonly({2});
-    answerwrong();
-    nquestion = 2;
     logstatus = 2;
     playgame();
-    EXPECT_EQ(log(), "---- Question 1\r\n---- Question 2\r\n");
+    EXPECT_EQ(said(host), "You scored 0 out of 25 (0%)\nYou scored 50 out of 50 (100%)\n");
+    EXPECT_TRUE(log().ends_with("\r\n---- Question 8\r\n---- Question 9\r\n---- Question 10\r\n"));
+    host.persons["mchoice"] = [](Screen& s) { userclose(s); };
+    nquestion = 1;
+    playgame(); // the percentage stays what it was
+    EXPECT_EQ(said(host), "You scored 0 out of 0 (100%)\n");
+    EXPECT_EQ(std::count(host.shown.begin(), host.shown.end(), "mchoice"), 16);
 }
 
 // A draw of 0 becomes type 1: two chances in 14, all others one. With some types off only the others come.
 TEST_F(Game, DrawsTheTypes)
 {
-    std::map<std::int16_t, int> counts;
-    for (const char* name : {"mchoice", "qsort", "qmatch"}) {
-        host.persons[name] = [&counts](Screen& screen) {
-            ++counts[qtype];
-            userclose(screen);
-        };
-    }
     logstatus = 0;
     nquestion = 2800;
     playround(1);
@@ -127,21 +122,19 @@ TEST_F(Game, DrawsTheTypes)
 
 TEST_F(Game, NothingToAskIsTold)
 {
+    const std::string toofew =
+        "The timeline Medieval.bd3 has too few different items for the kinds of question selected. Select other "
+        "kinds with the Setup button, or another period with View/Select on the same screen.\n";
     curfile = "Medieval.bd3";
     enableonly({0, 14});
     playgame();
-    ASSERT_EQ(host.messages.size(), 1U);
-    EXPECT_EQ(host.messages[0].text, "No kind of question is selected. Select at least one with the Setup button.");
-    enableonly({1, 9});
-    tests::setnumbered(4, 4);
-    playgame();
-    ASSERT_EQ(host.messages.size(), 2U);
-    EXPECT_EQ(host.messages[1].text,
-              "The timeline Medieval.bd3 has too few different items for the kinds of question selected. Select other "
-              "kinds with the Setup button, or another period with View/Select on the same screen.");
-    tests::settimeline({}, {});
-    playgame();
-    EXPECT_EQ(host.messages.size(), 3U);
+    EXPECT_EQ(said(host), "No kind of question is selected. Select at least one with the Setup button.\n");
+    for (const int count : {4, 0}) {
+        enableonly({1, 13});
+        tests::setnumbered(count, count);
+        playgame();
+        EXPECT_EQ(said(host), toofew);
+    }
     EXPECT_TRUE(host.shown.empty());
 }
 
@@ -154,77 +147,57 @@ TEST_F(Game, EndsWhenTheDesktopWantsIt)
     EXPECT_TRUE(host.messages.empty());
 }
 
-class MainScreenTest : public Game {
-protected:
-    void run(const std::function<void(MainScreen&)>& act)
-    {
-        host.persons["main"] = [&act](Screen& screen) {
-            act(static_cast<MainScreen&>(screen));
-            if (!screen.closed) {
-                userclick(find<Button>(screen, "cmdquit"));
-            }
-        };
-        MainScreen screen(folder.path().string());
-        showmodal(screen);
-    }
-};
-
-TEST_F(MainScreenTest, StartsInOrderAndEndsWithTheSettings)
+TEST_F(Game, StartsInOrderAndEndsWithTheSettings)
 {
     writefile("Classic.bd3", timelinetext());
     writefile("bdqquiz.log", "old");
     host.pictures["TITLE.BMP"] = 0;
     tests::settimeline({}, {});
+    curperiod = -1;
+    viewonly = 0;
     std::filesystem::current_path("/");
-    run([this](MainScreen& s) {
-        EXPECT_LE(faultplan.calls, 15); // of the disk: settings looked for, log emptied, one timeline read
-        EXPECT_EQ(s.caption, "Brindor History Trivia Game");
-        EXPECT_EQ(s.label1.text, "Brindor History Trivia Game");
-        EXPECT_EQ(s.label2.text, "Version 1.03");
-        EXPECT_EQ(s.cmdcatalog.text + '|' + s.cmdcatalog.tooltip, "Catalog|View Quorvel Software Catalog");
-        EXPECT_NE(s.backdrop, nullptr);
-        EXPECT_EQ(npeople, 30);
-        EXPECT_EQ(curperiod, 1);
-        EXPECT_EQ(viewonly, 1);
-        EXPECT_EQ(contentof("bdqquiz.log"), "");
-        EXPECT_FALSE(s.label3.visible || s.label4.visible);
-        for (int click = 0; click < 2; ++click) {
-            userclick(s.command3);
-            EXPECT_TRUE(s.label3.visible && s.label4.visible);
-        }
-        userclick(s.cmdcatalog);
-        EXPECT_EQ(host.viewed, std::vector<std::string>{"bdqord.txt"});
-        EXPECT_FALSE(std::filesystem::exists("bdq.INI"));
-        userclose(s);
-    });
+    EXPECT_EQ(run("?; Command3; Command3; ?; cmdCatalog",
+                  [] {
+                      std::string text;
+                      for (const Control* control : topscreen()->controls) {
+                          text += control->visible ? control->text + '|' : "-";
+                      }
+                      return text + (topscreen()->backdrop ? "picture|" : "plain|") + std::to_string(peoplecount()) +
+                             '|' + std::to_string(viewonly) + '|' + log() +
+                             (std::filesystem::exists("bdq.INI") ? "written" : "");
+                  }),
+              "Brindor History Trivia Game|Version 1.03|--Play|Setup|About|Catalog|Quit|picture|30|1|\n"
+              "Brindor History Trivia Game|Version 1.03|Written by the project's contributors|Copyright (C) the "
+              "project's contributors|Play|Setup|About|Catalog|Quit|picture|30|1|\n");
+    EXPECT_EQ(host.viewed, std::vector<std::string>{"bdqord.txt"});
     EXPECT_EQ(contentof("bdq.INI").substr(0, 20), "1 1 5 1\r\n1 8 8 8\r\nTI");
-    EXPECT_TRUE(host.messages.empty());
 }
 
-TEST_F(MainScreenTest, GoesOnWithoutAnyFile)
+TEST_F(Game, GoesOnWithoutAnyFileOrFolder)
 {
-    run([this](MainScreen& s) {
-        EXPECT_EQ(s.backdrop, nullptr);
-        userclick(s.command1);
-        EXPECT_FALSE(s.closed);
-        EXPECT_EQ(host.messages.size(), 2U); // the missing timeline, and nothing to ask
-    });
+    const std::string missing = "Ancient.bd3 cannot be opened: No such file or directory. Put the file into the "
+                                "program's folder, or choose another period. 30 Person 29 30 Event 29\n";
+    EXPECT_EQ(run("?; Command1", [] { return std::string(topscreen()->backdrop ? "picture" : "plain"); }),
+              missing + "plain\nYou scored 0 out of 0 (0%)\n");
     EXPECT_TRUE(std::filesystem::exists("bdq.INI"));
+    std::filesystem::remove_all(folder.path());
+    EXPECT_TRUE(run("", {}).starts_with("The program's folder " + folder.path().string() +
+                                        " cannot be entered: No such file or directory. Check that it exists and may "
+                                        "be read.\n"));
 }
 
 // Two games in one run: the marks go on, the score does not.
-TEST_F(MainScreenTest, PlaysTwoGames)
+TEST_F(Game, PlaysTwoGames)
 {
     writefile("Ancient.bd3", timelinetext());
-    answerwrong();
-    run([this](MainScreen& s) {
+    answer(false);
+    int marks = 0;
+    const std::string told = run("?; Command1; ?; Command1; ?", [&marks] {
         enableonly({1});
-        userclick(s.command1);
-        const int marks = std::accumulate(usedmarks.begin(), usedmarks.end(), 0);
-        userclick(s.command1);
-        EXPECT_GE(std::accumulate(usedmarks.begin(), usedmarks.end(), 0), marks + 5 * 12); // drawn 14, wrong 2
-        EXPECT_EQ(host.messages.back().text, "You scored 0 out of 25 (0%)");
+        const int before = std::exchange(marks, std::accumulate(usedmarks.begin(), usedmarks.end(), 0));
+        return std::string(marks >= before + 5 * 12 ? "raised" : ""); // each is drawn with 14, and 2 for a wrong answer
     });
+    EXPECT_EQ(told, "\nYou scored 0 out of 25 (0%)\nraised\nYou scored 0 out of 25 (0%)\nraised\n");
 }
 
 } // namespace brindor

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace brindor {
 
@@ -27,13 +28,6 @@ protected:
             texts.insert(getpstr(chosen[slot], type));
         }
         return std::to_string(texts.size()) + (isperson != 0 ? " people" : " events");
-    }
-
-    static std::vector<std::int16_t> sortedmarks()
-    {
-        std::vector<std::int16_t> marks = usedmarks;
-        std::sort(marks.begin(), marks.end());
-        return marks;
     }
 };
 
@@ -52,38 +46,32 @@ TEST_F(Selection, DrawsFiveDifferentItemsOfTheTypesFamily)
 }
 
 // Five people: the second question climbs to level 2, and for its last slot to level 11.
-TEST_F(Selection, ClimbsWhenTheFreshItemsAreUsedUp)
+TEST_F(Selection, ClimbsWhenTheFreshItemsAreUsedUpAndRefusesAMarkEqualToTheLevel)
 {
     tests::setnumbered(5, 0);
     EXPECT_EQ(draw(6), "5 people");
-    EXPECT_EQ(sortedmarks(), (std::vector<std::int16_t>{0, 1, 1, 1, 1, 10}));
+    std::vector<std::int16_t> marks(6, 1);
     const std::int16_t first = chosen[0];
+    marks[static_cast<std::size_t>(first)] = 10;
+    marks[5] = 0;
+    EXPECT_EQ(usedmarks, marks);
     EXPECT_EQ(draw(6), "5 people");
     EXPECT_EQ(chosen[4], first);
     EXPECT_EQ(usedmarks[static_cast<std::size_t>(first)], 11);
-}
-
-TEST_F(Selection, AMarkEqualToTheLevelIsRefused)
-{
-    tests::setnumbered(20, 0);
-    usedmarks.assign(usedmarks.size(), 1);
-    usedmarks[7] = 0;
-    qtype = 6;
-    EXPECT_EQ(getitem(0), 7); // the only one below level 1
+    tests::setnumbered(200, 0);
+    usedmarks.assign(201, 50);
+    usedmarks[3] = 5;
+    EXPECT_EQ(getitem(0), 3); // the only one below level 6
     usedmarks.assign(usedmarks.size(), 32767);
     EXPECT_GE(getitem(0), 0); // nor does a mark at its limit keep an item away for ever
-    EXPECT_LE(*std::max_element(usedmarks.begin(), usedmarks.end()), 32767);
+    EXPECT_EQ(usedmarks, std::vector<std::int16_t>(201, 32767));
 }
 
 // Which items a type never draws: those whose comparison text is empty or a single blank.
-TEST_F(Selection, BlankTexts)
+TEST_F(Selection, BlankTextsAreNeverDrawn)
 {
-    const struct {
-        std::int16_t type;
-        bool drawn;
-    } cases[] = {{1, true},  {2, false}, {3, true},  {4, false}, {5, true},   {6, false}, {7, true},
-                 {8, false}, {9, true},  {10, true}, {11, true}, {12, false}, {13, false}};
-    for (const auto& c : cases) {
+    std::string drawn;
+    for (std::int16_t type = 1; type <= lasttype; ++type) {
         tests::setnumbered(5, 5);
         people.insert(people.begin(), tests::person("", tests::year(1)));
         events.insert(events.begin(), tests::event(" ", tests::year(2)));
@@ -91,31 +79,32 @@ TEST_F(Selection, BlankTexts)
         bool seen = false;
         for (int game = 0; game < 40; ++game) {
             clearmarks();
-            draw(c.type);
+            draw(type);
             seen = seen || std::count(chosen.begin(), chosen.begin() + 5, 0) > 0;
         }
-        EXPECT_EQ(seen, c.drawn) << c.type;
-        people[0].desc1 = events[0].desc2 = "  "; // two blanks pass
+        drawn += seen ? std::to_string(type) + ' ' : "";
     }
+    EXPECT_EQ(drawn, "1 3 5 7 9 10 11 ");
+    people[5] = people[4];
+    EXPECT_FALSE(fillabletypes()[2]);
+    people[0].desc1 = "  "; // two blanks pass
+    EXPECT_TRUE(fillabletypes()[2]);
 }
 
 TEST_F(Selection, EqualTextsAndTooFewItems)
 {
-    ByType<bool> all{};
-    std::fill(all.begin() + 1, all.begin() + 1 + lasttype, true);
-    tests::setnumbered(6, 6);
-    EXPECT_EQ(fillabletypes(), all);
-    people[1] = people[0];
-    events[1] = events[0];
-    EXPECT_EQ(fillabletypes(), all); // exactly five different ones are left
-    for (std::int16_t type = 1; type <= lasttype; ++type) {
-        EXPECT_EQ(draw(type).front(), '5') << type;
+    for (int equal = 0; equal < 3; ++equal) { // five different ones are left, and then four
+        tests::setnumbered(6, 6);
+        std::fill_n(people.begin(), equal, people[5]);
+        std::fill_n(events.begin(), equal, events[5]);
+        const ByType<bool> fillable = fillabletypes();
+        EXPECT_EQ(std::count(fillable.begin(), fillable.end(), true), equal < 2 ? lasttype : 0);
+        for (std::int16_t type = 1; equal < 2 && type <= lasttype; ++type) {
+            EXPECT_EQ(draw(type).front(), '5') << type;
+        }
     }
-    people[2] = people[0];
-    events[2] = events[0];
-    EXPECT_EQ(fillabletypes(), ByType<bool>{});
-    people[2].desc2 = "other"; // only the first description line counts
-    people[2].date2 = 2000;    // for some types only the first date does
+    people[1].desc2 = "other"; // only the first description line counts
+    people[1].date2 = 2000;    // for some types only the first date does
     ByType<bool> datesalone{};
     datesalone[1] = true;
     EXPECT_EQ(fillabletypes(), datesalone);
@@ -136,26 +125,25 @@ TEST_F(Selection, WhereNothingCanPassItEnds)
     EXPECT_EQ(host.messages.at(0).text, "No action for 14");
 }
 
-// Among the items that pass, each is equally likely.
+// Among the items that pass, each is equally likely: 0.1 % of fair draws exceed the limit, with 10 degrees of freedom.
 TEST_F(Selection, IsUniform)
 {
-    constexpr int items = 12;
-    constexpr int draws = 6000;
-    tests::setnumbered(0, items);
-    std::vector<double> counts(items);
-    for (int i = 0; i < draws; ++i) {
+    constexpr double expected = 500;
+    tests::setnumbered(0, 12);
+    std::vector<double> counts(12);
+    qtype = 13;
+    for (int i = 0; i < 11 * expected; ++i) {
         clearmarks();
         usedmarks[3] = 1; // never while the others are fresh
-        qtype = 13;
         ++counts[static_cast<std::size_t>(getitem(0))];
     }
-    EXPECT_EQ(counts[3], 0);
+    EXPECT_EQ(drawbelow(0) + drawbelow(-5), 0);
+    EXPECT_EQ(std::exchange(counts[3], expected), 0);
     double chisquare = 0;
-    const double expected = draws / (items - 1.0);
-    for (std::size_t i = 0; i < counts.size(); ++i) {
-        chisquare += i == 3 ? 0 : (counts[i] - expected) * (counts[i] - expected) / expected;
+    for (const double count : counts) {
+        chisquare += (count - expected) * (count - expected) / expected;
     }
-    EXPECT_LT(chisquare, 29.6); // 0.1 % of fair generators exceed this with 10 degrees of freedom
+    EXPECT_LT(chisquare, 29.6);
 }
 
 // The levels that nothing seems to pass are passed with the odds of 1001 blind tries each: 0 means the one good item of
@@ -187,18 +175,6 @@ TEST_F(Selection, KeepsTheOddsOfTheBlindTries)
         chisquare += (counts[i] - number) * (counts[i] - number) / number;
     }
     EXPECT_LT(chisquare, 13.8); // 0.1 % of fair generators exceed this with 2 degrees of freedom
-}
-
-TEST(Random, StaysBelowItsBound)
-{
-    seedrandom(42);
-    for (int i = 0; i < 1000; ++i) {
-        const double r = randomvalue();
-        ASSERT_TRUE(r >= 0 && r < 1);
-        ASSERT_TRUE(drawbelow(3) >= 0 && drawbelow(3) < 3);
-    }
-    EXPECT_EQ(drawbelow(0), 0);
-    EXPECT_EQ(drawbelow(-5), 0);
 }
 
 } // namespace brindor

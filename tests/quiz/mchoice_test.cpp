@@ -1,15 +1,15 @@
 #include "quiz/mchoice.h"
 
-#include "base/random.h"
+#include "frame/services/placement.h"
 #include "questions/texts.h"
 #include "support/quiztest.h"
+#include "support/story.h"
 
-#include <set>
+#include <algorithm>
 
 namespace brindor {
 
 using namespace toolkit;
-using tests::find;
 
 class MchoiceTest : public tests::QuizTest {
 protected:
@@ -24,7 +24,7 @@ protected:
     }
 };
 
-TEST_F(MchoiceTest, ARightAnswer)
+TEST_F(MchoiceTest, AnswersAgainstResultScoreMarksAndLog)
 {
     play(2, [](Mchoice& s) {
         setmarks(100);
@@ -32,74 +32,85 @@ TEST_F(MchoiceTest, ARightAnswer)
         EXPECT_EQ(s.askeditem, chosen[static_cast<std::size_t>(s.rightchoice)]);
         EXPECT_EQ(usedmarks[usedslot(1, s.askeditem)], 104);
     });
-    EXPECT_EQ(heading, "Results for Who was?");
-    EXPECT_EQ(result, " Correct, +5 pts");
-    EXPECT_EQ(score, "Current score: 5 of 5  (100%)");
+    EXPECT_EQ(heading + '|' + result + '|' + score,
+              "Results for Who was?| Correct, +5 pts|Current score: 5 of 5  (100%)");
     EXPECT_EQ(log(), "Multiple Choice\r\n");
-}
-
-TEST_F(MchoiceTest, AWrongAnswer)
-{
-    std::string question;
-    std::string right;
-    play(12, [&](Mchoice& s) {
-        setmarks(100);
-        question = s.label1.text;
-        right = s.choice[static_cast<std::size_t>(s.rightchoice)].text;
-        userpress(s.choice[4]);
-        std::vector<std::int16_t> expected(5, 100);
-        expected[4] = 99;
-        expected[static_cast<std::size_t>(s.rightchoice)] = 99;
-        EXPECT_EQ(chosenmarks(), expected);
-    });
-    EXPECT_EQ(result, "Sorry, the answer was " + right);
-    EXPECT_EQ(score, "Current score: 0 of 5  (0%)");
-    EXPECT_EQ(heading, "Results for Which nations were involved?");
-    EXPECT_EQ(log(), "Multiple Choice\r\n" + question + ' ' + right + "\r\n");
+    for (const char* told : {"Current score: 5 of 10  (50%)", "Current score: 5 of 15  (33%)"}) { // rounded down
+        std::string question;
+        std::string right;
+        const std::string before = log();
+        play(12, [&](Mchoice& s) {
+            setmarks(100);
+            question = s.label1.text;
+            right = s.choice[static_cast<std::size_t>(s.rightchoice)].text;
+            userpress(s.choice[4]);
+            std::vector<std::int16_t> expected(5, 100);
+            expected[4] = expected[static_cast<std::size_t>(s.rightchoice)] = 99;
+            EXPECT_EQ(chosenmarks(), expected);
+        });
+        EXPECT_EQ(heading + '|' + result + '|' + score,
+                  "Results for Which nations were involved?|Sorry, the answer was " + right + '|' + told);
+        EXPECT_EQ(log(), before + "Multiple Choice\r\n" + question + ' ' + right + "\r\n");
+    }
 }
 
 TEST_F(MchoiceTest, TheScreenShowsTheQuestion)
 {
-    const std::int16_t types[] = {1, 2, 7, 8, 12};
-    for (const std::int16_t type : types) {
+    for (const auto type : std::initializer_list<std::int16_t>{1, 2, 7, 8, 12}) {
         play(type, [type](Mchoice& s) {
             EXPECT_EQ(s.label1.text, paramname(questionline, s.askeditem, 0));
             for (std::size_t i = 0; i < 5; ++i) {
                 EXPECT_EQ(s.choice[i].text, paramname(itemtext, chosen[i], 0));
-                EXPECT_FALSE(s.choice[i].selected);
             }
             EXPECT_EQ(isperson, type <= 6 ? 1 : 0);
-            EXPECT_EQ(s.frame1.place, (Place{40, 25, s.width - 80, s.height - 50}));
-            EXPECT_EQ(s.choice[2].place.width, s.width - 480);
             userclose(s);
         });
     }
 }
 
-// What leaves the question unanswered changes nothing but what the draw has done.
+// The size is stored in 16 bits unless the screen is maximised, no other row is touched, and the frame stays in the
+// middle; its contents take the left edge that it had before.
+TEST_F(MchoiceTest, KeepsItsSizeAndFillsItsWindow)
+{
+    const std::tuple<double, double, std::int16_t, int, int, int> steps[] = {{12001.5, 9001.5, normal, 0, 9002, 12002},
+                                                                             {57600, 32400, minimised, 1, 32400, 32767},
+                                                                             {14000, 9000, maximised, 1, 32400, 32767}};
+    placements[0] = {2, 77, 5001, 6001};
+    play(1, [&](Mchoice& s) {
+        EXPECT_EQ(s.width * 10 + s.height + s.windowstate, 65013);
+        EXPECT_EQ(s.left + s.top, (15360 - 6001) * 0.5 + (11520 - 5001) * 0.5);
+        for (const auto& [width, height, state, keptstate, keptheight, keptwidth] : steps) {
+            userresize(s, width, height, state);
+            const FormPlacement& kept = placements[0];
+            EXPECT_EQ(kept.windowstate * 10 + kept.height, keptstate * 10 + keptheight);
+            EXPECT_EQ(kept.width + kept.backcolor, keptwidth + 192 + 256 * 255 + 65536 * 192);
+            EXPECT_EQ(s.frame1.place, (Place{40, 25, s.width - 80, s.height - 50}));
+            for (const Control* control : std::initializer_list<Control*>{&s.choice[0], &s.choice[1], &s.choice[2],
+                                                                          &s.choice[3], &s.choice[4], &s.label1}) {
+                EXPECT_EQ(control->place.left, 140);
+                EXPECT_EQ(control->place.width, s.width - 480);
+            }
+        }
+        placeform(s, -1, storeplacement);
+        placeform(s, 11, restoreplacement);
+        EXPECT_EQ(placements[1].width + placements[10].width, 24000);
+        userclose(s);
+    });
+}
+
+// What leaves the question unanswered changes nothing but what the draw has done. A keyboard selects with a click.
 TEST_F(MchoiceTest, SkipCloseHelpAndKeyboardDoNotAnswer)
 {
-    const std::function<void(Mchoice&)> acts[] = {
-        [](Mchoice& s) { userclick(s.command1); },
-        [](Mchoice& s) { userclose(s); },
-        [this](Mchoice& s) {
-            userclick(s.cmdhelp);
-            EXPECT_EQ(host.messages.back().text,
-                      "Click on the best description.\r\nClick on skip to move to the next question");
-            EXPECT_FALSE(s.closed);
-            userclick(s.choice[1]); // as a keyboard selects
-            EXPECT_TRUE(s.choice[1].selected);
-            EXPECT_FALSE(userreturn(s));
-            EXPECT_FALSE(userescape(s));
-            EXPECT_FALSE(s.closed);
-            userclick(s.command1);
-        },
-    };
-    for (const auto& act : acts) {
-        play(7, [&act](Mchoice& s) {
+    for (const char* story : {"Command1", "", "cmdhelp; choice(1); return; esc; Command1"}) {
+        play(7, [&](Mchoice& s) {
             setmarks(50);
-            act(s);
+            EXPECT_EQ(act(host, s, story), story[0] != 'c' ? ""
+                                                           : "Click on the best description.\r\nClick on skip to move "
+                                                             "to the next question\n!return\n!esc\n");
+            EXPECT_EQ(s.choice[1].selected, story[0] == 'c');
             EXPECT_EQ(chosenmarks(), std::vector<std::int16_t>(5, 50));
+            EXPECT_EQ(s.closed, story[0] != 0);
+            userclose(s);
         });
     }
     EXPECT_EQ(host.shown, std::vector<std::string>(3, "mchoice"));
@@ -108,7 +119,7 @@ TEST_F(MchoiceTest, SkipCloseHelpAndKeyboardDoNotAnswer)
 
 TEST_F(MchoiceTest, TheRightChoiceIsAnyOfTheFirstFour)
 {
-    std::vector<int> counts(5);
+    std::array<int, 5> counts{};
     for (int i = 0; i < 400; ++i) {
         play(1, [&counts](Mchoice& s) {
             ++counts[static_cast<std::size_t>(s.rightchoice)];
@@ -116,9 +127,7 @@ TEST_F(MchoiceTest, TheRightChoiceIsAnyOfTheFirstFour)
         });
     }
     EXPECT_EQ(counts[4], 0);
-    for (std::size_t i = 0; i < 4; ++i) {
-        EXPECT_GT(counts[i], 60); // 100 expected, standard deviation below 9
-    }
+    EXPECT_GT(*std::min_element(counts.begin(), counts.begin() + 4), 60); // 100 expected, standard deviation below 9
 }
 
 } // namespace brindor

@@ -1,5 +1,5 @@
 #include "authoring/commands.h"
-#include "authoring/pictures.h"
+#include "authoring/eventpictures.h"
 #include "base/files.h"
 #include "support/programtest.h"
 #include "tools/sample.h"

@@ -1,7 +1,7 @@
 #include "gallery.h"
 
 #include "base/files.h"
-#include "questions/catalogue.h"
+#include "questions/question.h"
 #include "timeline/reader.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/qthost.h"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "authoring/eventpictures.h"
 #include "authoring/forms.h"
-#include "authoring/pictures.h"
 #include "base/result.h"
 #include "timeline/reader.h"
 

@@ -22,7 +22,6 @@ namespace brindor::authoring {
 namespace {
 
 constexpr std::int64_t questionsofagame = 50; // then the marks are cleared, as a new choice of a period does
-constexpr std::int16_t placesoftheright = 4;
 constexpr int nearyears = 10;
 constexpr int longesttoreign = 40; // years from a birth within which a reign may be that of an older person
 
@@ -199,6 +198,7 @@ constexpr std::array<Rule, lasttype> rules = {{
     {nationsets, nationrule},
     {eventorder, "first dates of two events 1 to 10 years apart, both \"ca.\": clear, one \"ca.\": arguable."},
 }};
+static_assert(!rules.back().words.empty(), "one rule a kind");
 
 bool hasreign(std::int16_t person)
 {

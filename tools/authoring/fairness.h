@@ -16,8 +16,8 @@ struct Fairness {
     std::int64_t arguable = 0;
 };
 
-// Draws questions of a kind, 1 to lasttype, from the loaded Timeline and judges them. The same seed gives the same
-// ones.
+// Draws questions of a kind from the loaded Timeline and judges them. The same seed gives the same ones. A kind outside
+// 1 to lasttype must not be asked for.
 Fairness fairnessof(std::int16_t type, std::int64_t questions, std::uint64_t seed);
 
 // The rules by which a question is judged, one line a rule.

@@ -20,17 +20,6 @@ namespace {
 constexpr std::size_t longesttext = 1000; // bytes
 constexpr std::string_view byteordermark = "\xEF\xBB\xBF";
 
-std::string inquotes(std::string_view text)
-{
-    return '"' + std::string(text) + '"';
-}
-
-bool iscontrol(char c)
-{
-    const auto byte = static_cast<unsigned char>(c);
-    return byte < 0x20 || byte == 0x7F;
-}
-
 // One row being read: each field is asked for by its column's name, and what is wrong with it goes to the findings.
 class Row {
 public:

@@ -44,11 +44,6 @@ private:
     Findings& findings_;
 };
 
-inline std::string inquotes(std::string_view text)
-{
-    return '"' + std::string(text) + '"';
-}
-
 inline std::string atline(const ItemForm& form)
 {
     return "line " + numbertext(form.line);

@@ -1,8 +1,8 @@
 #include "authoring/packs.h"
 
 #include "authoring/commandline.h"
+#include "authoring/eventpictures.h"
 #include "authoring/folder.h"
-#include "authoring/pictures.h"
 #include "authoring/words.h"
 #include "authoring/writing.h"
 #include "authoring/zipfile.h"
@@ -134,6 +134,15 @@ std::string periodnamed(const std::string& word)
         return !name.empty() && folded(name) == folded(word);
     });
     return found == periodnames.end() ? std::string() : *found;
+}
+
+std::string periodlist(const std::string& word)
+{
+    std::string list = periodnames.front();
+    for (std::size_t period = 1; period <= lastperiod; ++period) {
+        list += (period < lastperiod ? ", " : ' ' + word + ' ') + periodnames[period];
+    }
+    return list;
 }
 
 Report playtimeline(const std::string& folder, const std::string& period, const Places& places,

@@ -20,6 +20,9 @@ Places placesbeside(const std::string& toolfolder);
 // The period that a word means, letter case aside: "Modern" for "modern". Empty for no period's name.
 std::string periodnamed(const std::string& word);
 
+// The periods as a list for people, `word` before the last: "Ancient, Classic, Medieval or Modern".
+std::string periodlist(const std::string& word);
+
 // Makes the timeline of a folder with its maps in a fresh folder and starts the game on it there; the fresh folder goes
 // when the game has ended. Takes nothing from the game but copies, and changes nothing there. `ready` is called with
 // what was made just before the game starts.

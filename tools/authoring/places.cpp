@@ -1,7 +1,7 @@
 #include "authoring/checks.h"
 
+#include "authoring/eventpictures.h"
 #include "authoring/notes.h"
-#include "authoring/pictures.h"
 #include "authoring/words.h"
 #include "base/numbers.h"
 #include "base/text.h"

@@ -104,11 +104,6 @@ std::string adviceon(const std::string& text)
     return "write a whole number, as 1832, -44 or 44 BC";
 }
 
-std::string inquotes(std::string_view text)
-{
-    return '"' + std::string(text) + '"';
-}
-
 } // namespace
 
 std::string plain(std::string_view field)

@@ -52,11 +52,6 @@ constexpr std::array<std::string_view, 17> measures = {"men",  "women", "people"
                                                        "foot", "sheep", "oxen",   "cattle",   "km",    "metres",
                                                        "tons", "guns",  "sail",   "percent",  "cities"};
 
-bool isdigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 bool isalnum(char c)
 {
     return isdigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -95,8 +90,7 @@ std::string folded(std::string_view text)
 {
     std::string result;
     if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
-        std::transform(text.begin(), text.end(), std::back_inserter(result),
-                       [](char c) { return c >= 'A' && c <= 'Z' ? "abcdefghijklmnopqrstuvwxyz"[c - 'A'] : c; });
+        std::transform(text.begin(), text.end(), std::back_inserter(result), lowercase);
         return result;
     }
     return put(text, folding);
@@ -182,6 +176,11 @@ std::string yearin(std::string_view text)
         }
     }
     return {};
+}
+
+std::string inquotes(std::string_view text)
+{
+    return '"' + std::string(text) + '"';
 }
 
 std::string slug(std::string_view text)

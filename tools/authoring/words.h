@@ -32,6 +32,8 @@ std::string sharedword(std::string_view name, std::string_view text);
 // empty where there is none.
 std::string yearin(std::string_view text);
 
+std::string inquotes(std::string_view text);
+
 // A text as part of a file name: lower case ASCII letters and digits, "-" for all between them. "Mao's march"
 // becomes "maos-march". At most 80 characters; "item" where nothing is left.
 std::string slug(std::string_view text);

@@ -62,7 +62,7 @@ bool staysin(const std::string& folder, const std::string& name)
     }
     for (std::string part = folderof(name); !part.empty(); part = folderof(part)) {
         if (const Result<std::string> real = realpathof(inside(folder, part))) {
-            return real.value->starts_with(*home.value == "/" ? "/" : *home.value + '/');
+            return liesin(*real.value, *home.value);
         }
     }
     return true;

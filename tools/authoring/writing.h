@@ -18,7 +18,7 @@ public:
     // Takes the content for `name`, a file in `folder` or below it, where folders that are missing will be made. It is
     // refused, with an error, where
     // - the name is not relative, or has a part that is empty or begins with a dot;
-    // - the name ends in something else than bd3, csv, zip or a picture's ending, or the content is no such file;
+    // - the name ends in something else than bd3, csv, zip, svg or a picture's ending, or the content is no such file;
     // - a link leads out of the folder;
     // - another file was taken for the same place;
     // - another file stands there, unless `overwrite`; with it too where that file is of another kind than the name

@@ -1,6 +1,6 @@
 #include "mapmaker/lettering.h"
 
-#include "mapmaker/texts.h"
+#include "mapmaker/fonts.h"
 
 #include <QRectF>
 #include <algorithm>

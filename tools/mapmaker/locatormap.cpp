@@ -1,12 +1,12 @@
 #include "mapmaker/locatormap.h"
 
-#include "authoring/pictures.h"
+#include "authoring/eventpictures.h"
+#include "mapmaker/fonts.h"
 #include "mapmaker/framing.h"
 #include "mapmaker/lettering.h"
 #include "mapmaker/picturefile.h"
 #include "mapmaker/projection.h"
 #include "mapmaker/shallows.h"
-#include "mapmaker/texts.h"
 
 #include <QColor>
 #include <QLineF>

@@ -1,4 +1,5 @@
 #include "authoring/findings.h"
+#include "base/program.h"
 #include "mapmaker/maps.h"
 
 #include <CLI/CLI.hpp>
@@ -9,7 +10,7 @@
 int main(int argc, char** argv)
 {
     using namespace brindor;
-    CLI::App app("Draws the pictures of the Brindor History Trivia Game.", "mapmaker");
+    CLI::App app("Draws the pictures of the " + std::string(titletext) + '.', "mapmaker");
     app.require_subcommand(1);
     std::string folder;
     std::string outfolder;

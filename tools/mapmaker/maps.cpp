@@ -1,13 +1,13 @@
 #include "mapmaker/maps.h"
 
+#include "authoring/eventpictures.h"
 #include "authoring/folder.h"
-#include "authoring/pictures.h"
 #include "authoring/writing.h"
 #include "base/text.h"
+#include "mapmaker/fonts.h"
 #include "mapmaker/icon.h"
 #include "mapmaker/locatormap.h"
 #include "mapmaker/picturefile.h"
-#include "mapmaker/texts.h"
 #include "mapmaker/titlepicture.h"
 
 #include <cstddef>

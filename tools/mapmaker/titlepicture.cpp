@@ -1,9 +1,9 @@
 #include "mapmaker/titlepicture.h"
 
+#include "mapmaker/fonts.h"
 #include "mapmaker/ornaments.h"
 #include "mapmaker/projection.h"
 #include "mapmaker/shallows.h"
-#include "mapmaker/texts.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-// The values that outlive a run, kept in "bdq.INI" in the program's folder: 25 lines of values by position. Beside
-// those below these are curperiod, placements and typeenabled.
+// The values that outlive a run, kept in "bdq.INI" in the program's folder: lines of values by position, 11 of them and
+// one for each slot of typeenabled from 0 to lasttype. Beside those below these are curperiod and placements.
 namespace brindor {
 
 inline constexpr std::int16_t usualquestions = 5; // where nothing else was chosen

@@ -1,7 +1,7 @@
 #include "toolkit/qt/appearance.h"
 
 #include "toolkit/faces.h"
-#include "toolkit/qt/icon.h"
+#include "toolkit/qt/windowicon.h"
 
 #include <QApplication>
 #include <QPlainTextEdit>

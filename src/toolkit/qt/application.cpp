@@ -3,7 +3,6 @@
 #include "toolkit/qt/appearance.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QTimer>
 
 #include <cstdio>
@@ -47,11 +46,6 @@ int runapplication(int argc, char** argv, const std::function<void()>& program)
         QCoreApplication::exit(0);
     });
     return QApplication::exec();
-}
-
-std::string programfolder()
-{
-    return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
 }
 
 } // namespace brindor::toolkit::qt

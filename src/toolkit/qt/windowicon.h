@@ -4,7 +4,7 @@
 
 namespace brindor::toolkit::qt {
 
-// The game's icon: a compass.
+// The icon of the windows, a compass. That of the desktop is drawn by mapmaker.
 QIcon compassicon();
 
 } // namespace brindor::toolkit::qt

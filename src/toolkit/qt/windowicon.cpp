@@ -1,4 +1,4 @@
-#include "toolkit/qt/icon.h"
+#include "toolkit/qt/windowicon.h"
 
 #include <QPainter>
 #include <QPixmap>

@@ -1,4 +1,4 @@
-#include "authoring/pictures.h"
+#include "authoring/eventpictures.h"
 
 #include "authoring/folder.h"
 #include "authoring/notes.h"

@@ -1,4 +1,4 @@
-#include "mapmaker/texts.h"
+#include "mapmaker/fonts.h"
 
 #include <QFont>
 #include <QFontInfo>

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "support/memoryhost.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace brindor::tests {
+
+// Does on a screen what a story tells, step by step, through toolkit/user.h. The steps stand between "; ":
+//   cmdNext        click on a button, an option or a picture, or move the focus to any other control
+//   date1=1066     type into a field
+//   Combo1#2       pick line 2 of a list
+//   updown1+ -     step a spin up or down
+//   esc, return    press the key
+//   ?              put down what `look` sees
+// A question during a step is answered with No, or with Yes where ":Y" stands behind the step.
+// Gives what the steps led to, a line each: "!step" for one that was refused, every message, and what was looked at.
+std::string act(MemoryHost& host, toolkit::Screen& screen, const std::string& story,
+                const std::function<std::string()>& look = {});
+
+// The pieces of a text between separators.
+std::vector<std::string> split(const std::string& text, const std::string& separator);
+
+// Every message since the last call, a line each: "title: text", without the usual title.
+std::string said(MemoryHost& host);
+
+} // namespace brindor::tests
