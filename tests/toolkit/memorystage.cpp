@@ -15,33 +15,22 @@ constexpr double frametwips = 60; // two pixels on each side, as the offscreen p
 
 void click(const Act& act)
 {
-    switch (act.control->kind) {
-    case Kind::button:
+    if (act.control->kind == Kind::button) {
         userpress(act.as<Button>());
         userclick(act.as<Button>());
-        break;
-    case Kind::optionbutton:
-        if (act.as<OptionButton>().press) {
-            userpress(act.as<OptionButton>());
-        } else {
-            userclick(act.as<OptionButton>());
-        }
-        break;
-    case Kind::label:
+    } else if (act.control->kind == Kind::optionbutton) {
+        auto& option = act.as<OptionButton>();
+        option.press ? userpress(option) : userclick(option);
+    } else if (act.control->kind == Kind::label) {
         userclick(act.as<Label>());
-        break;
-    default:
+    } else {
         userfocus(*act.control);
     }
 }
 
 void space(const Act& act)
 {
-    if (act.control->kind == Kind::optionbutton) {
-        userclick(act.as<OptionButton>());
-    } else {
-        userclick(act.as<Button>());
-    }
+    act.control->kind == Kind::button ? userclick(act.as<Button>()) : userclick(act.as<OptionButton>());
 }
 
 void type(const Act& act)
@@ -56,15 +45,14 @@ void type(const Act& act)
 void pick(const Act& act)
 {
     const auto line = static_cast<std::int16_t>(act.number());
-    act.control->kind == Kind::combo ? userpick(act.as<Combo>(), line) : userpick(act.as<List>(), line);
+    for (int times = act.verb == "twice" ? 2 : 1; times > 0; --times) {
+        act.control->kind == Kind::combo ? userpick(act.as<Combo>(), line) : userpick(act.as<List>(), line);
+    }
 }
 
 void letgo(const Act& act)
 {
-    Button* bar = act.screen.dragged;
-    if (bar == act.control && bar != nullptr) {
-        userclick(*bar);
-    } else if (bar != nullptr && (act.control->kind != Kind::label || !userdrop(act.as<Label>()))) {
+    if (act.screen.dragged != nullptr && (act.control->kind != Kind::label || !userdrop(act.as<Label>()))) {
         userdropnowhere(act.screen);
     }
 }
@@ -76,11 +64,7 @@ const Verbs acted = {
     {"alt", [](const Act& act) { userclick(act.as<Button>()); }},
     {"type", type},
     {"pick", pick},
-    {"twice",
-     [](const Act& act) {
-         pick(act);
-         pick(act);
-     }},
+    {"twice", pick},
     {"press", [](const Act& act) { userpress(act.as<Button>()); }},
     {"letgo", letgo},
     {"stepup", [](const Act& act) { userstep(act.as<Spin>(), 1); }},
@@ -90,10 +74,7 @@ const Verbs acted = {
     {"escape", [](const Act& act) { userescape(act.screen); }},
     {"close", [](const Act& act) { userclose(act.screen); }},
     {"resize",
-     [](const Act& act) {
-         const double size = act.number() * 15 + frametwips;
-         userresize(act.screen, size, size, normal);
-     }},
+     [](const Act& act) { userresize(act.screen, act.number() * 15 + frametwips, act.screen.height, normal); }},
 };
 
 class MemoryStage : public Stage {
@@ -118,12 +99,9 @@ public:
         acts_ = std::move(acts);
         for (const char* name : {"all", "second", "third"}) {
             host_.persons[name] = [this](Screen& front) {
-                if (acts_.empty() || acts_.front().on != front.name) {
-                    ADD_FAILURE() << "the story has no act for " << front.name;
-                    closescreen(front);
-                } else {
-                    next();
-                }
+                const bool mine = !acts_.empty() && acts_.front().on == front.name;
+                EXPECT_TRUE(mine) << "the story has no act for " << front.name;
+                mine ? next() : closescreen(front);
             };
         }
         showmodal(screen);

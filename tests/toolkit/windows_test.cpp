@@ -102,11 +102,11 @@ const Story stories[] = {
      " RadioButton 'Inside' < Kinds, inside, RadioButton 'Inside' checked < Kinds, List 'Lines' = Lines,"
      " List 'Lines' = Lines invisible, Button 'Salt & pepper up', Window 'all'"},
     {"AnAssistiveToolIsNotToldWhereABarLies", [](Everything& all) { all.bars[0].tooltip = "Drag it"; },
-     "tell bar(0); tell target; pickup bar(0); tell bar(0); putdown bar(0); putonrow bar(0); tell bar(0); tell target;"
-     " pickup bar(1); putdown bar(1); putonrow bar(1); tell target",
+     "tell bar(0); tell target; pickup bar(0); tell bar(0); putdown bar(0); putonrow bar(1); tell target;"
+     " putonrow bar(0); tell bar(0); tell target",
      "Button 'One': Drag it, StaticText 'Egypt': Empty., Button 'One': Picked up. Drag it,"
-     " Button 'One': On the row Egypt. Drag it, StaticText 'Egypt': Holds One.,"
-     " StaticText 'Egypt': Holds Two."}, // which lies on top
+     " StaticText 'Egypt': Holds Two., Button 'One': On the row Egypt. Drag it,"
+     " StaticText 'Egypt': Holds One."}, // which lies on top
     {"AScreenInFrontIsNoDialogOrAPressForSomeoneIsNotThatOfTheMouse",
      [](Everything& all) {
          all.goopens();

@@ -140,7 +140,7 @@ const Verbs acted = {
     {"close", [](const Act& act) { windowof(act.screen).close(); }},
     {"resize",
      [](const Act& act) {
-         windowof(act.screen).resize(act.number(), act.number());
+         windowof(act.screen).resize(act.number(), windowof(act.screen).height());
          QCoreApplication::processEvents();
      }},
     {"yes", answer},
