@@ -6,12 +6,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPointer>
 #include <QTest>
-#include <QTimer>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -29,7 +26,7 @@ namespace {
 // through the window, where a modal window in front stops them.
 QWindow* handleof(const Act& act)
 {
-    return windowof(act.on == "message" || act.control == nullptr ? act.screen : *act.control->screen).windowHandle();
+    return windowof(act.screen).windowHandle();
 }
 
 QPoint middleof(QListWidget& list, int line)
@@ -47,18 +44,14 @@ QPoint where(const Act& act)
     return widget.mapTo(&windowof(act.screen), at);
 }
 
-// The press may end the screen, and then nobody lets go of anything in it.
-void clickat(const QPointer<QWindow>& window, QPoint at, Qt::MouseButton button = Qt::LeftButton)
+void clickat(QWidget& window, QPoint at)
 {
-    QTest::mousePress(window, button, {}, at);
-    if (window != nullptr) {
-        QTest::mouseRelease(window, button, {}, at);
-    }
+    mouse(window, at, at);
 }
 
 void click(const Act& act)
 {
-    clickat(handleof(act), where(act));
+    clickat(windowof(act.screen), where(act));
 }
 
 // Tabs to the control, the shorter way, so that nothing else is passed.
@@ -75,7 +68,7 @@ void space(const Act& act)
 
 void type(const Act& act)
 {
-    clickat(handleof(act), where({act.on, act.verb, act.screen, act.control, ""}));
+    clickat(windowof(act.screen), where({act.on, act.verb, act.screen, act.control, ""}));
     QTest::keyClick(handleof(act), Qt::Key_End, Qt::ControlModifier);
     QTest::keyClick(handleof(act), Qt::Key_End);
     for (const char letter : act.more) {
@@ -89,18 +82,18 @@ void pick(const Act& act)
         return click(act);
     }
     auto& widget = static_cast<QComboBox&>(widgetof(*act.control));
-    clickat(handleof(act), widget.mapTo(&windowof(act.screen), QPoint(widget.width() - 6, widget.height() / 2)));
+    clickat(windowof(act.screen), widget.mapTo(&windowof(act.screen), QPoint(widget.width() - 6, widget.height() / 2)));
     QTest::qWait(QApplication::doubleClickInterval() + 50); // a release so soon would count as the same click
     QAbstractItemView* view = widget.view();
     const QPoint middle = view->visualRect(widget.model()->index(act.number(), 0)).center();
-    clickat(view->window()->windowHandle(), view->viewport()->mapTo(view->window(), middle));
+    clickat(*view->window(), view->viewport()->mapTo(view->window(), middle));
 }
 
 void step(const Act& act)
 {
     QWidget& spin = widgetof(*act.control);
     const QPoint half = act.verb == "stepup" ? QPoint(4, 4) : QPoint(spin.width() - 4, spin.height() - 4);
-    clickat(handleof(act), spin.mapTo(&windowof(act.screen), half));
+    clickat(windowof(act.screen), spin.mapTo(&windowof(act.screen), half));
 }
 
 void letgo(const Act& act)
@@ -114,7 +107,7 @@ void answer(const Act& act)
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     const auto wanted = act.verb == "yes" ? QMessageBox::Yes : QMessageBox::No;
     const QAbstractButton* button = box->button(wanted) != nullptr ? box->button(wanted) : box->button(QMessageBox::Ok);
-    clickat(box->windowHandle(), button->mapTo(box, button->rect().center()));
+    clickat(*box, button->mapTo(box, button->rect().center()));
 }
 
 std::function<void(const Act&)> key(Qt::Key key)
@@ -124,7 +117,7 @@ std::function<void(const Act&)> key(Qt::Key key)
 
 const Verbs acted = {
     {"click", click},
-    {"right", [](const Act& act) { clickat(handleof(act), where(act), Qt::RightButton); }},
+    {"right", [](const Act& act) { QTest::mouseClick(handleof(act), Qt::RightButton, {}, where(act)); }},
     {"space", space},
     {"alt", [](const Act& act) { QTest::keyClick(handleof(act), act.as<Button>().accesskey, Qt::AltModifier); }},
     {"type", type},
@@ -147,71 +140,30 @@ const Verbs acted = {
     {"no", answer},
 };
 
-// The next act is armed before one is done, since an act can open a screen and wait in it. An act that only waits
-// for its own events is not interrupted.
 class WindowStage : public Stage {
 public:
     explicit WindowStage(Verbs verbs) : verbs_(std::move(verbs)) { verbs_.insert(acted.begin(), acted.end()); }
 
     void play(Screen& screen, Acts acts) override
     {
-        acts_ = std::move(acts);
-        arm();
-        showmodal(screen);
-        EXPECT_TRUE(acts_.empty()) << acts_.size() << " acts left";
-        acts_.clear();
+        constexpr int patience = 5000;
+        int waited = 0;
+        walk([&] { showmodal(screen); },
+             [&](const QWidget& front) {
+                 if (!acts.empty() && front.objectName().toStdString() == acts.front().on) {
+                     const Act act = acts.front();
+                     acts.pop_front();
+                     verbs_.at(act.verb)(act);
+                 } else if (++waited > patience) {
+                     quitbydesktop();
+                 }
+             });
+        EXPECT_TRUE(acts.empty()) << "no window for " << acts.front().verb << " on " << acts.front().on;
     }
 
 private:
-    void arm()
-    {
-        QTimer::singleShot(1, &timers_, [this] { next(); });
-    }
-
-    // A click on a window that is not yet exposed would be lost, and a message that has just been answered is gone
-    // from sight a little before it is over.
-    bool isready(const QWidget* front) const
-    {
-        const std::string& on = acts_.front().on;
-        return front != nullptr && front->isVisible() && front->windowHandle()->isExposed() &&
-               (on == "message" || (topscreen() != nullptr && topscreen()->name == on)) &&
-               front->objectName().toStdString() == on && (acting_.empty() || acting_.back() != front);
-    }
-
-    void next()
-    {
-        if (acts_.empty()) {
-            return;
-        }
-        const QWidget* front = QApplication::activeModalWidget();
-        if (isready(front)) {
-            waited_.invalidate();
-            const Act act = acts_.front();
-            acts_.pop_front();
-            arm();
-            acting_.push_back(front);
-            verbs_.at(act.verb)(act);
-            acting_.pop_back();
-            return;
-        }
-        if (!waited_.isValid()) {
-            waited_.start();
-        }
-        if (waited_.elapsed() > patience) {
-            ADD_FAILURE() << "no window for " << acts_.front().verb << " on " << acts_.front().on;
-            quitbydesktop();
-        } else {
-            arm();
-        }
-    }
-
-    static constexpr qint64 patience = 15000; // milliseconds
     Verbs verbs_;
     QtHost host_;
-    QObject timers_;
-    Acts acts_;
-    std::vector<const QWidget*> acting_; // the windows in front when the acts in progress began
-    QElapsedTimer waited_;
 };
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/windows.h"
 
 #include <functional>
 #include <string>
@@ -14,10 +14,7 @@ struct Step {
     std::function<void(QWidget&)> act;
 };
 
-// Opens something that waits, and acts again and again on the window that is then in front.
-void walk(const std::function<void()>& open, std::function<void(QWidget& window)> act);
-
-// The same with steps that are done one after the other; then all windows that are left are closed. A window that does
+// Walks with steps that are done one after the other; then all windows that are left are closed. A window that does
 // not come fails the test.
 void walk(const std::function<void()>& open, const std::vector<Step>& steps);
 
@@ -33,10 +30,6 @@ std::vector<Exhibit> gallery();
 
 // Shows the exhibit and looks at its window.
 void look(const Exhibit& exhibit, const std::function<void(QWidget& window)>& with);
-
-// Presses the mouse at a place in the window and lets go at another. The press may end the screen, and then nobody lets
-// go of anything in it.
-void mouse(QWidget& window, QPoint from, QPoint to, bool letgo = true);
 
 // A click in the middle of a control, as a mouse does it.
 void click(QWidget& window, const std::string& control);
