@@ -1,9 +1,9 @@
-#include "toolkit/windows.h"
 #include "frame/mainscreen.h"
 #include "support/gametest.h"
 #include "support/randomplayer.h"
 #include "toolkit/operations.h"
 #include "toolkit/qt/qthost.h"
+#include "toolkit/windows.h"
 
 #include <QAbstractButton>
 #include <QApplication>
