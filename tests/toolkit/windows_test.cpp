@@ -22,15 +22,10 @@ namespace {
 
 using namespace toolkit;
 
-QAccessibleInterface& access(QObject& widget)
-{
-    return *QAccessible::queryAccessibleInterface(&widget);
-}
-
 // "Role 'name' = value: description states < its labels > what it labels"
 std::string told(QObject& widget)
 {
-    QAccessibleInterface& about = access(widget);
+    QAccessibleInterface& about = *QAccessible::queryAccessibleInterface(&widget);
     const auto add = [](const char* mark, const QString& text) {
         return text.isEmpty() ? "" : mark + text.toStdString();
     };
@@ -57,7 +52,8 @@ void lookatmessage(const Act& act)
 
 void pressforsomeone(const Act& act)
 {
-    access(widgetof(*act.control)).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QAccessibleInterface* about = QAccessible::queryAccessibleInterface(&widgetof(*act.control));
+    about->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
 
 const Verbs own = {
@@ -70,10 +66,7 @@ const Verbs own = {
     {"pressfor", pressforsomeone},
     {"key",
      [](const Act& act) {
-         QTest::keyClick(windowof(act.screen).windowHandle(), act.more == "Tab"     ? Qt::Key_Tab
-                                                              : act.more == "Down"  ? Qt::Key_Down
-                                                              : act.more == "Space" ? Qt::Key_Space
-                                                                                    : Qt::Key_Return);
+         QTest::keySequence(windowof(act.screen).windowHandle(), QKeySequence(QString::fromStdString(act.more)));
      }},
     {"focus", [](const Act& act) { act.screen.note(QApplication::focusWidget()->objectName().toStdString()); }},
     {"setfocus", [](const Act& act) { widgetof(*act.control).setFocus(); }},

@@ -29,18 +29,17 @@ QWindow* handleof(const Act& act)
     return windowof(act.screen).windowHandle();
 }
 
-QPoint middleof(QListWidget& list, int line)
-{
-    return list.viewport()->mapTo(&list, list.visualItemRect(list.item(line)).center());
-}
-
-// A line of a list, else near the left edge, where no bar covers a description, or in the upper half of a spin.
+// A line of a list, a half of a spin, else near the left edge, where no bar covers a description.
 QPoint where(const Act& act)
 {
     QWidget& widget = widgetof(*act.control);
-    const auto at = act.control->kind == Kind::list && !act.more.empty()
-                        ? middleof(static_cast<QListWidget&>(widget), act.number())
-                        : QPoint(6, widget.height() / 2);
+    QPoint at(6, widget.height() / 2);
+    if (act.control->kind == Kind::list && !act.more.empty()) {
+        const auto& list = static_cast<QListWidget&>(widget);
+        at = list.viewport()->mapTo(&list, list.visualItemRect(list.item(act.number())).center());
+    } else if (act.control->kind == Kind::spin) {
+        at = act.verb == "stepup" ? QPoint(4, 4) : QPoint(widget.width() - 4, widget.height() - 4);
+    }
     return widget.mapTo(&windowof(act.screen), at);
 }
 
@@ -89,13 +88,6 @@ void pick(const Act& act)
     clickat(*view->window(), view->viewport()->mapTo(view->window(), middle));
 }
 
-void step(const Act& act)
-{
-    QWidget& spin = widgetof(*act.control);
-    const QPoint half = act.verb == "stepup" ? QPoint(4, 4) : QPoint(spin.width() - 4, spin.height() - 4);
-    clickat(windowof(act.screen), spin.mapTo(&windowof(act.screen), half));
-}
-
 void letgo(const Act& act)
 {
     QTest::mouseMove(handleof(act), where(act));
@@ -105,8 +97,7 @@ void letgo(const Act& act)
 void answer(const Act& act)
 {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    const auto wanted = act.verb == "yes" ? QMessageBox::Yes : QMessageBox::No;
-    const QAbstractButton* button = box->button(wanted) != nullptr ? box->button(wanted) : box->button(QMessageBox::Ok);
+    const QAbstractButton* button = box->buttons().value(act.verb == "yes" ? 0 : 1); // OK is the only one
     clickat(*box, button->mapTo(box, button->rect().center()));
 }
 
@@ -125,8 +116,8 @@ const Verbs acted = {
     {"twice", [](const Act& act) { QTest::mouseDClick(handleof(act), Qt::LeftButton, {}, where(act)); }},
     {"press", [](const Act& act) { QTest::mousePress(handleof(act), Qt::LeftButton, {}, where(act)); }},
     {"letgo", letgo},
-    {"stepup", step},
-    {"stepdown", step},
+    {"stepup", click},
+    {"stepdown", click},
     {"up", key(Qt::Key_Up)},
     {"return", key(Qt::Key_Return)},
     {"escape", key(Qt::Key_Escape)},
