@@ -1,9 +1,8 @@
-#include "person.h"
+#include "story.h"
 #include "support/memoryhost.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <utility>
 
 namespace brindor::tests {
@@ -14,160 +13,129 @@ namespace {
 
 constexpr double frametwips = 60; // two pixels on each side, as the offscreen platform has them
 
-class MemoryPerson : public Person {
-public:
-    explicit MemoryPerson(MemoryHost& host) : host_(host) {}
-
-    void click(Control& control) override
-    {
-        switch (control.kind) {
-        case Kind::button:
-            if (auto& button = static_cast<Button&>(control); button.bar) {
-                userpress(button);
-                userclick(button);
-            } else {
-                userclick(button);
-            }
-            break;
-        case Kind::optionbutton:
-            if (auto& option = static_cast<OptionButton&>(control); option.press) {
-                userpress(option);
-            } else {
-                userclick(option);
-            }
-            break;
-        case Kind::label:
-            userclick(static_cast<Label&>(control));
-            break;
-        case Kind::picture:
-            userclick(static_cast<Picture&>(control));
-            break;
-        default:
-            userfocus(control);
-        }
+void click(const Act& act)
+{
+    if (act.control->kind == Kind::button) {
+        userpress(act.as<Button>());
+        userclick(act.as<Button>());
+    } else if (act.control->kind == Kind::optionbutton) {
+        auto& option = act.as<OptionButton>();
+        option.press ? userpress(option) : userclick(option);
+    } else if (act.control->kind == Kind::label) {
+        userclick(act.as<Label>());
+    } else {
+        userfocus(*act.control);
     }
+}
 
-    void rightpress(OptionButton& option) override { userpress(option); }
+void space(const Act& act)
+{
+    act.control->kind == Kind::button ? userclick(act.as<Button>()) : userclick(act.as<OptionButton>());
+}
 
-    void pressspace(Control& control) override
-    {
-        if (control.kind == Kind::optionbutton) {
-            userclick(static_cast<OptionButton&>(control));
-        } else {
-            userclick(static_cast<Button&>(control));
-        }
+void type(const Act& act)
+{
+    userfocus(*act.control);
+    for (const char letter : act.more) {
+        const std::string text = act.control->text + letter;
+        act.control->kind == Kind::combo ? usertype(act.as<Combo>(), text) : usertype(act.as<TextBox>(), text);
     }
+}
 
-    void pressaltkey(Button& button) override { userclick(button); }
-    void type(TextBox& box, const std::string& more) override { typeinto(box, more); }
-    void type(Combo& combo, const std::string& more) override { typeinto(combo, more); }
-    void clickline(List& list, std::int16_t line) override { userpick(list, line); }
-
-    void doubleclickline(List& list, std::int16_t line) override
-    {
-        userpick(list, line);
-        userpick(list, line);
+void pick(const Act& act)
+{
+    const auto line = static_cast<std::int16_t>(act.number());
+    for (int times = act.verb == "twice" ? 2 : 1; times > 0; --times) {
+        act.control->kind == Kind::combo ? userpick(act.as<Combo>(), line) : userpick(act.as<List>(), line);
     }
+}
 
-    void pickline(Combo& combo, std::int16_t line) override { userpick(combo, line); }
-    void press(Button& bar) override { userpress(bar); }
-
-    void letgo(Button& bar, Control& over) override
-    {
-        if (bar.screen->dragged != &bar) {
-            return;
-        }
-        if (&over == &bar) {
-            userclick(bar);
-        } else if (over.kind != Kind::label || !userdrop(static_cast<Label&>(over))) {
-            userdropnowhere(*bar.screen);
-        }
+void letgo(const Act& act)
+{
+    if (act.screen.dragged != nullptr && (act.control->kind != Kind::label || !userdrop(act.as<Label>()))) {
+        userdropnowhere(act.screen);
     }
+}
 
-    void stepup(Spin& spin) override { userstep(spin, 1); }
-    void pressup(TextBox& box) override { userstep(box, 1); }
-    void enter(Screen& screen) override { userreturn(screen); }
-    void escape(Screen& screen) override { userescape(screen); }
-    void close(Screen& screen) override { userclose(screen); }
-
-    void resize(Screen& screen, int width, int height) override
-    {
-        userresize(screen, width * 15 + frametwips, height * 15 + frametwips, normal);
-    }
-
-    void answer(bool yes) override
-    {
-        if (question) {
-            host_.answers.push_back(yes);
-        }
-        answered = true;
-    }
-
-    bool question = false; // of the message in front
-    bool answered = false;
-
-private:
-    template <class Field>
-    static void typeinto(Field& field, const std::string& more)
-    {
-        userfocus(field);
-        for (const char letter : more) {
-            usertype(field, field.text + letter);
-        }
-    }
-
-    MemoryHost& host_;
+const Verbs acted = {
+    {"click", click},
+    {"right", [](const Act& act) { userpress(act.as<OptionButton>()); }},
+    {"space", space},
+    {"alt", [](const Act& act) { userclick(act.as<Button>()); }},
+    {"type", type},
+    {"pick", pick},
+    {"twice", pick},
+    {"press", [](const Act& act) { userpress(act.as<Button>()); }},
+    {"letgo", letgo},
+    {"stepup", [](const Act& act) { userstep(act.as<Spin>(), 1); }},
+    {"stepdown", [](const Act& act) { userstep(act.as<Spin>(), -1); }},
+    {"up", [](const Act& act) { userstep(act.as<TextBox>(), 1); }},
+    {"return", [](const Act& act) { userreturn(act.screen); }},
+    {"escape", [](const Act& act) { userescape(act.screen); }},
+    {"close", [](const Act& act) { userclose(act.screen); }},
+    {"resize",
+     [](const Act& act) { userresize(act.screen, act.number() * 15 + frametwips, act.screen.height, normal); }},
 };
 
 class MemoryStage : public Stage {
 public:
-    MemoryStage() : person_(host_)
+    explicit MemoryStage(Verbs verbs) : verbs_(std::move(verbs))
     {
+        verbs_.insert(acted.begin(), acted.end());
+        verbs_["yes"] = [this](const Act&) { answer(true); };
+        verbs_["no"] = [this](const Act&) { answer(false); };
         host_.frame = {frametwips, frametwips};
         host_.whilemessage = [this](const Message& message) {
-            person_.question = message.question;
-            person_.answered = false;
-            while (!person_.answered && !story_.empty() && story_.front().on == "message") {
+            question_ = message.question;
+            answered_ = false;
+            while (!answered_ && !acts_.empty() && acts_.front().on == "message") {
                 next();
             }
         };
     }
 
-    void play(Screen& screen, Story story) override
+    void play(Screen& screen, Acts acts) override
     {
-        story_ = std::move(story);
-        for (const Act& act : story_) {
-            host_.persons[act.on] = [this](Screen& front) {
-                if (story_.empty() || story_.front().on != front.name) {
-                    ADD_FAILURE() << "the story has no act for " << front.name;
-                    closescreen(front);
-                } else {
-                    next();
-                }
+        acts_ = std::move(acts);
+        for (const char* name : {"all", "second", "third"}) {
+            host_.persons[name] = [this](Screen& front) {
+                const bool mine = !acts_.empty() && acts_.front().on == front.name;
+                EXPECT_TRUE(mine) << "the story has no act for " << front.name;
+                mine ? next() : closescreen(front);
             };
         }
         showmodal(screen);
-        EXPECT_TRUE(story_.empty()) << story_.size() << " acts left";
+        EXPECT_TRUE(acts_.empty()) << acts_.size() << " acts left";
     }
 
 private:
     void next()
     {
-        const Act act = std::move(story_.front());
-        story_.pop_front();
-        act.what(person_);
+        const Act act = acts_.front();
+        acts_.pop_front();
+        verbs_.at(act.verb)(act);
     }
 
+    void answer(bool yes)
+    {
+        if (question_) {
+            host_.answers.push_back(yes);
+        }
+        answered_ = true;
+    }
+
+    Verbs verbs_;
     MemoryHost host_;
-    MemoryPerson person_;
-    Story story_;
+    Acts acts_;
+    bool question_ = false; // of the message in front
+    bool answered_ = false;
 };
 
 } // namespace
 
-std::unique_ptr<Stage> memorystage()
+std::unique_ptr<Stage> makestage(const Verbs& own)
 {
-    return std::make_unique<MemoryStage>();
+    return std::make_unique<MemoryStage>(own);
 }
 
 } // namespace brindor::tests

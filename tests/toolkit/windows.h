@@ -16,4 +16,14 @@ QWidget& widgetof(const toolkit::Control& control);
 // Shows the screen, does the act in its window as soon as that is seen, and closes it.
 void showwhile(toolkit::Screen& screen, const std::function<void()>& act);
 
+// Opens something that waits, and acts again and again on the window that is then in front.
+void walk(const std::function<void()>& open, std::function<void(QWidget& window)> act);
+
+// Presses the mouse at a place in the window and lets go at another. The press may end the screen, and then nobody lets
+// go of anything in it.
+void mouse(QWidget& window, QPoint from, QPoint to, bool letgo = true);
+
+// The desktop asks the program to end.
+void quitbydesktop();
+
 } // namespace brindor::tests

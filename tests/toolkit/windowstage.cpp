@@ -1,5 +1,4 @@
-#include "person.h"
-#include "toolkit/operations.h"
+#include "story.h"
 #include "toolkit/qt/qthost.h"
 #include "windows.h"
 
@@ -7,19 +6,15 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPointer>
 #include <QTest>
-#include <QTimer>
 #include <QWindow>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace brindor::tests {
 
@@ -29,200 +24,144 @@ namespace {
 
 // Acts with mouse and keyboard on the windows. Nothing is called on the widgets themselves: the events take the road
 // through the window, where a modal window in front stops them.
-class WindowPerson : public Person {
-public:
-    void click(Control& control) override { clickat(control, placetoclick(control)); }
-    void rightpress(OptionButton& option) override { clickat(option, placetoclick(option), Qt::RightButton); }
+QWindow* handleof(const Act& act)
+{
+    return windowof(act.screen).windowHandle();
+}
 
-    void pressspace(Control& control) override
-    {
-        tabto(control);
-        key(control, Qt::Key_Space);
+// A line of a list, a half of a spin, else near the left edge, where no bar covers a description.
+QPoint where(const Act& act)
+{
+    QWidget& widget = widgetof(*act.control);
+    QPoint at(6, widget.height() / 2);
+    if (act.control->kind == Kind::list && !act.more.empty()) {
+        const auto& list = static_cast<QListWidget&>(widget);
+        at = list.viewport()->mapTo(&list, list.visualItemRect(list.item(act.number())).center());
+    } else if (act.control->kind == Kind::spin) {
+        at = act.verb == "stepup" ? QPoint(4, 4) : QPoint(widget.width() - 4, widget.height() - 4);
     }
+    return widget.mapTo(&windowof(act.screen), at);
+}
 
-    void pressaltkey(Button& button) override
-    {
-        QTest::keyClick(windowof(*button.screen).windowHandle(), button.accesskey, Qt::AltModifier);
+void clickat(QWidget& window, QPoint at)
+{
+    mouse(window, at, at);
+}
+
+void click(const Act& act)
+{
+    clickat(windowof(act.screen), where(act));
+}
+
+// Tabs to the control, the shorter way, so that nothing else is passed.
+void space(const Act& act)
+{
+    const std::vector<Control*>& order = act.screen.controls;
+    const auto wanted = std::find(order.begin(), order.end(), act.control);
+    const auto from = std::find(order.begin(), order.end(), act.screen.focus);
+    for (std::size_t i = 0; i < order.size() && !widgetof(*act.control).hasFocus(); ++i) {
+        QTest::keyClick(handleof(act), from < wanted ? Qt::Key_Tab : Qt::Key_Backtab);
     }
+    QTest::keyClick(handleof(act), Qt::Key_Space);
+}
 
-    void type(TextBox& box, const std::string& more) override { typeinto(box, more); }
-    void type(Combo& combo, const std::string& more) override { typeinto(combo, more); }
-    void clickline(List& list, std::int16_t line) override { clickat(list, middleof(list, line)); }
-
-    void doubleclickline(List& list, std::int16_t line) override
-    {
-        QTest::mouseDClick(windowof(*list.screen).windowHandle(), Qt::LeftButton, {},
-                           inwindow(list, middleof(list, line)));
+void type(const Act& act)
+{
+    clickat(windowof(act.screen), where({act.on, act.verb, act.screen, act.control, ""}));
+    QTest::keyClick(handleof(act), Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClick(handleof(act), Qt::Key_End);
+    for (const char letter : act.more) {
+        QTest::keyClick(handleof(act), letter);
     }
+}
 
-    void pickline(Combo& combo, std::int16_t line) override
-    {
-        auto& widget = static_cast<QComboBox&>(widgetof(combo));
-        clickat(combo, widget.rect().center() + QPoint(widget.width() / 2 - 6, 0)); // the arrow
-        QTest::qWait(QApplication::doubleClickInterval() + 50); // a release so soon would count as the same click
-        QAbstractItemView* view = widget.view();
-        const QPoint middle = view->visualRect(widget.model()->index(line, 0)).center();
-        QTest::mouseClick(view->window()->windowHandle(), Qt::LeftButton, {},
-                          view->viewport()->mapTo(view->window(), middle));
+void pick(const Act& act)
+{
+    if (act.control->kind != Kind::combo) {
+        return click(act);
     }
+    auto& widget = static_cast<QComboBox&>(widgetof(*act.control));
+    clickat(windowof(act.screen), widget.mapTo(&windowof(act.screen), QPoint(widget.width() - 6, widget.height() / 2)));
+    QTest::qWait(QApplication::doubleClickInterval() + 50); // a release so soon would count as the same click
+    QAbstractItemView* view = widget.view();
+    const QPoint middle = view->visualRect(widget.model()->index(act.number(), 0)).center();
+    clickat(*view->window(), view->viewport()->mapTo(view->window(), middle));
+}
 
-    void press(Button& bar) override
-    {
-        QTest::mousePress(windowof(*bar.screen).windowHandle(), Qt::LeftButton, {}, inwindow(bar, placetoclick(bar)));
-    }
+void letgo(const Act& act)
+{
+    QTest::mouseMove(handleof(act), where(act));
+    QTest::mouseRelease(handleof(act), Qt::LeftButton, {}, where(act));
+}
 
-    void letgo(Button& bar, Control& over) override
-    {
-        QWindow* window = windowof(*bar.screen).windowHandle();
-        const QPoint end = inwindow(over, placetoclick(over));
-        QTest::mouseMove(window, end);
-        QTest::mouseRelease(window, Qt::LeftButton, {}, end);
-    }
+void answer(const Act& act)
+{
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    const QAbstractButton* button = box->buttons().value(act.verb == "yes" ? 0 : 1); // OK is the only one
+    clickat(*box, button->mapTo(box, button->rect().center()));
+}
 
-    void stepup(Spin& spin) override { clickat(spin, QPoint(4, 4)); }
-    void pressup(TextBox& box) override { key(box, Qt::Key_Up); }
-    void enter(Screen& screen) override { QTest::keyClick(windowof(screen).windowHandle(), Qt::Key_Return); }
-    void escape(Screen& screen) override { QTest::keyClick(windowof(screen).windowHandle(), Qt::Key_Escape); }
-    void close(Screen& screen) override { windowof(screen).close(); }
+std::function<void(const Act&)> key(Qt::Key key)
+{
+    return [key](const Act& act) { QTest::keyClick(handleof(act), key); };
+}
 
-    void resize(Screen& screen, int width, int height) override
-    {
-        windowof(screen).resize(width, height);
-        QCoreApplication::processEvents();
-    }
-
-    void answer(bool yes) override
-    {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box != nullptr) {
-            const auto wanted = yes ? QMessageBox::Yes : QMessageBox::No;
-            QAbstractButton* button =
-                box->button(wanted) != nullptr ? box->button(wanted) : box->button(QMessageBox::Ok);
-            QTest::mouseClick(box->windowHandle(), Qt::LeftButton, {}, button->mapTo(box, button->rect().center()));
-        }
-    }
-
-private:
-    static QPoint inwindow(Control& control, QPoint at)
-    {
-        return widgetof(control).mapTo(&windowof(*control.screen), at);
-    }
-
-    // Near the left edge, where no bar covers a description.
-    static QPoint placetoclick(Control& control) { return {6, widgetof(control).height() / 2}; }
-
-    static QPoint middleof(List& list, std::int16_t line)
-    {
-        auto& widget = static_cast<QListWidget&>(widgetof(list));
-        return widget.viewport()->mapTo(&widget, widget.visualItemRect(widget.item(line)).center());
-    }
-
-    // The press may end the screen, and then nobody lets go of anything in it.
-    static void clickat(Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
-    {
-        const QPointer<QWindow> window = windowof(*control.screen).windowHandle();
-        const QPoint where = inwindow(control, at);
-        QTest::mousePress(window, button, {}, where);
-        if (window != nullptr) {
-            QTest::mouseRelease(window, button, {}, where);
-        }
-    }
-
-    static void key(Control& control, Qt::Key key) { QTest::keyClick(windowof(*control.screen).windowHandle(), key); }
-
-    // The shorter way, so that nothing else is passed.
-    static void tabto(Control& control)
-    {
-        const std::vector<Control*>& order = control.screen->controls;
-        const auto wanted = std::find(order.begin(), order.end(), &control);
-        const auto from = std::find(order.begin(), order.end(), control.screen->focus);
-        for (std::size_t i = 0; i < order.size() && !widgetof(control).hasFocus(); ++i) {
-            key(control, from < wanted ? Qt::Key_Tab : Qt::Key_Backtab);
-        }
-    }
-
-    template <class Field>
-    static void typeinto(Field& field, const std::string& more)
-    {
-        QWindow* window = windowof(*field.screen).windowHandle();
-        clickat(field, placetoclick(field));
-        QTest::keyClick(window, Qt::Key_End, Qt::ControlModifier);
-        QTest::keyClick(window, Qt::Key_End);
-        for (const char letter : more) {
-            QTest::keyClick(window, letter);
-        }
-    }
+const Verbs acted = {
+    {"click", click},
+    {"right", [](const Act& act) { QTest::mouseClick(handleof(act), Qt::RightButton, {}, where(act)); }},
+    {"space", space},
+    {"alt", [](const Act& act) { QTest::keyClick(handleof(act), act.as<Button>().accesskey, Qt::AltModifier); }},
+    {"type", type},
+    {"pick", pick},
+    {"twice", [](const Act& act) { QTest::mouseDClick(handleof(act), Qt::LeftButton, {}, where(act)); }},
+    {"press", [](const Act& act) { QTest::mousePress(handleof(act), Qt::LeftButton, {}, where(act)); }},
+    {"letgo", letgo},
+    {"stepup", click},
+    {"stepdown", click},
+    {"up", key(Qt::Key_Up)},
+    {"return", key(Qt::Key_Return)},
+    {"escape", key(Qt::Key_Escape)},
+    {"close", [](const Act& act) { windowof(act.screen).close(); }},
+    {"resize",
+     [](const Act& act) {
+         windowof(act.screen).resize(act.number(), windowof(act.screen).height());
+         QCoreApplication::processEvents();
+     }},
+    {"yes", answer},
+    {"no", answer},
 };
 
-// The next act is armed before one is done, since an act can open a screen and wait in it. An act that only waits
-// for its own events is not interrupted.
 class WindowStage : public Stage {
 public:
-    void play(Screen& screen, Story story) override
+    explicit WindowStage(Verbs verbs) : verbs_(std::move(verbs)) { verbs_.insert(acted.begin(), acted.end()); }
+
+    void play(Screen& screen, Acts acts) override
     {
-        story_ = std::move(story);
-        arm();
-        showmodal(screen);
-        EXPECT_TRUE(story_.empty()) << story_.size() << " acts left";
-        story_.clear();
+        constexpr int patience = 5000;
+        int waited = 0;
+        walk([&] { showmodal(screen); },
+             [&](const QWidget& front) {
+                 if (!acts.empty() && front.objectName().toStdString() == acts.front().on) {
+                     const Act act = acts.front();
+                     acts.pop_front();
+                     verbs_.at(act.verb)(act);
+                 } else if (++waited > patience) {
+                     quitbydesktop();
+                 }
+             });
+        EXPECT_TRUE(acts.empty()) << "no window for " << acts.front().verb << " on " << acts.front().on;
     }
 
 private:
-    void arm()
-    {
-        QTimer::singleShot(1, &timers_, [this] { next(); });
-    }
-
-    void next()
-    {
-        if (story_.empty()) {
-            return;
-        }
-        const QWidget* front = QApplication::activeModalWidget();
-        // A click on a window that is not yet exposed would be lost.
-        const bool shown = front != nullptr && front->isVisible() && front->windowHandle()->isExposed();
-        // A message that has just been answered is gone from sight a little before it is over.
-        const std::string& on = story_.front().on;
-        const bool usable = on == "message" || (topscreen() != nullptr && topscreen()->name == on);
-        const bool expected = shown && usable && front->objectName() == QString::fromStdString(on);
-        const bool busy = !acting_.empty() && acting_.back() == front; // the act before is not over
-        const bool ready = expected && !busy;
-        if (!ready) {
-            if (!waited_.isValid()) {
-                waited_.start();
-            }
-            if (waited_.elapsed() > patience) {
-                ADD_FAILURE() << "no window for the act on " << story_.front().on;
-                QEvent quit(QEvent::Quit);
-                QCoreApplication::sendEvent(qApp, &quit);
-                return;
-            }
-            arm();
-            return;
-        }
-        waited_.invalidate();
-        const Act act = std::move(story_.front());
-        story_.pop_front();
-        arm();
-        acting_.push_back(front);
-        act.what(person_);
-        acting_.pop_back();
-    }
-
-    static constexpr qint64 patience = 15000; // milliseconds
+    Verbs verbs_;
     QtHost host_;
-    WindowPerson person_;
-    QObject timers_;
-    Story story_;
-    std::vector<const QWidget*> acting_; // the windows in front when the acts in progress began
-    QElapsedTimer waited_;
 };
 
 } // namespace
 
-std::unique_ptr<Stage> windowstage()
+std::unique_ptr<Stage> makestage(const Verbs& own)
 {
-    return std::make_unique<WindowStage>();
+    return std::make_unique<WindowStage>(own);
 }
 
 } // namespace brindor::tests

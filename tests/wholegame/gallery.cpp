@@ -16,12 +16,7 @@
 #include "timeline/timeline.h"
 #include "toolkit/operations.h"
 
-#include <QApplication>
-#include <QPointer>
 #include <QScrollArea>
-#include <QTest>
-#include <QTimer>
-#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -30,49 +25,6 @@
 namespace brindor::tests {
 
 namespace {
-
-class Walker : public QObject {
-public:
-    explicit Walker(std::vector<Step> steps) : steps_(std::move(steps)) { arm(); }
-
-private:
-    void arm()
-    {
-        QTimer::singleShot(10, this, [this] { next(); });
-    }
-
-    void next()
-    {
-        arm();
-        QWidget* front = QApplication::activeModalWidget();
-        const bool shown = front != nullptr && front->isVisible() && front->windowHandle()->isExposed();
-        if (!shown || front == acting_) {
-            return;
-        }
-        if (done_ == steps_.size()) {
-            front->close();
-            return;
-        }
-        const Step& step = steps_[done_];
-        if (front->objectName().toStdString() != step.window) {
-            constexpr int patience = 500;
-            if (++waited_ > patience) {
-                ADD_FAILURE() << step.window << " did not come";
-                done_ = steps_.size();
-            }
-            return;
-        }
-        ++done_;
-        QWidget* before = std::exchange(acting_, front);
-        step.act(*front);
-        acting_ = before;
-    }
-
-    std::vector<Step> steps_;
-    std::size_t done_ = 0;
-    int waited_ = 0;
-    QWidget* acting_ = nullptr;
-};
 
 QPoint middleof(QWidget& window, const std::string& control)
 {
@@ -103,10 +55,21 @@ std::function<void(QWidget&)> clicks(const std::string& control)
 
 } // namespace
 
-void walk(const std::function<void()>& open, std::vector<Step> steps)
+void walk(const std::function<void()>& open, const std::vector<Step>& steps)
 {
-    const Walker walker(std::move(steps));
-    open();
+    std::size_t done = 0;
+    int waited = 0;
+    walk(open, [&](QWidget& front) {
+        constexpr int patience = 5000;
+        if (done == steps.size()) {
+            front.close();
+        } else if (front.objectName().toStdString() == steps[done].window) {
+            steps[done++].act(front);
+        } else if (++waited > patience) {
+            ADD_FAILURE() << steps[done].window << " did not come";
+            done = steps.size();
+        }
+    });
 }
 
 void click(QWidget& window, const std::string& control)
@@ -116,16 +79,7 @@ void click(QWidget& window, const std::string& control)
 
 void drag(QWidget& window, const std::string& from, const std::string& to, bool letgo)
 {
-    const QPointer<QWindow> handle = window.windowHandle();
-    const QPoint start = middleof(window, from);
-    const QPoint end = middleof(window, to);
-    QTest::mousePress(handle, Qt::LeftButton, {}, start);
-    for (int step = 1; handle && step <= 4 && start != end; ++step) {
-        QTest::mouseMove(handle, start + (end - start) * step / 4);
-    }
-    if (handle && letgo) {
-        QTest::mouseRelease(handle, Qt::LeftButton, {}, end);
-    }
+    mouse(window, middleof(window, from), middleof(window, to), letgo);
 }
 
 std::vector<Exhibit> gallery()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/windows.h"
 
 #include <functional>
 #include <string>
@@ -14,9 +14,9 @@ struct Step {
     std::function<void(QWidget&)> act;
 };
 
-// Opens something that waits, does the steps one after the other, then closes all windows that are left. A window
-// that does not come fails the test.
-void walk(const std::function<void()>& open, std::vector<Step> steps);
+// Walks with steps that are done one after the other; then all windows that are left are closed. A window that does
+// not come fails the test.
+void walk(const std::function<void()>& open, const std::vector<Step>& steps);
 
 // Every screen of the game and its messages, with the Timeline that is loaded. The questions are drawn with a fixed
 // seed, so that the same Timeline gives the same pictures.

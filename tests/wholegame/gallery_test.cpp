@@ -5,11 +5,9 @@
 #include "support/timelines.h"
 #include "timeline/writer.h"
 #include "toolkit/operations.h"
-#include "toolkit/qt/appearance.h"
 #include "toolkit/qt/qthost.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QComboBox>
 #include <QImage>
 #include <QLineEdit>
@@ -18,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 // Every screen as it is seen and as an assistive tool is told of it.
@@ -75,10 +74,10 @@ double difference(const QImage& a, const QImage& b)
     int differing = 0;
     for (int y = 0; y < a.height(); ++y) {
         for (int x = 0; x < a.width(); ++x) {
-            const QColor one = a.pixelColor(x, y);
-            const QColor other = b.pixelColor(x, y);
-            const int most = std::max({std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
-                                       std::abs(one.blue() - other.blue())});
+            const QRgb one = a.pixel(x, y);
+            const QRgb other = b.pixel(x, y);
+            const int most = std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                                       std::abs(qBlue(one) - qBlue(other))});
             differing += most > clearly ? 1 : 0;
         }
     }
@@ -86,7 +85,7 @@ double difference(const QImage& a, const QImage& b)
 }
 
 // With BRINDOR_APPROVE set the pictures are taken as they are now, to be looked at before they are kept.
-TEST_F(GalleryTest, KeyScreensLookAsApproved)
+TEST_F(GalleryTest, AKeyScreenLooksOtherwiseThanApproved)
 {
     constexpr double tolerated = 0.004;
     const std::set<std::string> keyscreens = {"mchoice", "qsort", "qmatch events", "showscor of qsort", "setup"};
@@ -116,37 +115,22 @@ std::string name(QAccessibleInterface& about)
     return about.text(QAccessible::Name).toStdString();
 }
 
-QAccessible::Role roleof(toolkit::Kind kind)
-{
-    switch (kind) {
-    case toolkit::Kind::label:
-        return QAccessible::StaticText;
-    case toolkit::Kind::button:
-        return QAccessible::Button;
-    case toolkit::Kind::optionbutton:
-        return QAccessible::RadioButton;
-    case toolkit::Kind::textbox:
-        return QAccessible::EditableText;
-    case toolkit::Kind::list:
-        return QAccessible::List;
-    case toolkit::Kind::combo:
-        return QAccessible::ComboBox;
-    case toolkit::Kind::frame:
-        return QAccessible::Grouping;
-    case toolkit::Kind::picture:
-        return QAccessible::Graphic;
-    case toolkit::Kind::spin:
-        return QAccessible::Client;
-    }
-    return QAccessible::NoRole;
-}
+const std::map<toolkit::Kind, QAccessible::Role> roles = {{toolkit::Kind::label, QAccessible::StaticText},
+                                                          {toolkit::Kind::button, QAccessible::Button},
+                                                          {toolkit::Kind::optionbutton, QAccessible::RadioButton},
+                                                          {toolkit::Kind::textbox, QAccessible::EditableText},
+                                                          {toolkit::Kind::list, QAccessible::List},
+                                                          {toolkit::Kind::combo, QAccessible::ComboBox},
+                                                          {toolkit::Kind::frame, QAccessible::Grouping},
+                                                          {toolkit::Kind::picture, QAccessible::Graphic},
+                                                          {toolkit::Kind::spin, QAccessible::Client}};
 
 void checkcontrol(const toolkit::Control& control, QWidget& widget)
 {
     using toolkit::Kind;
     QAccessibleInterface* about = QAccessible::queryAccessibleInterface(&widget);
     ASSERT_NE(about, nullptr) << control.name;
-    EXPECT_EQ(about->role(), roleof(control.kind)) << control.name;
+    EXPECT_EQ(about->role(), roles.at(control.kind)) << control.name;
     const bool field = control.kind == Kind::textbox || control.kind == Kind::combo || control.kind == Kind::list;
     const bool silent = control.kind == Kind::spin ||
                         (control.kind == Kind::frame && !static_cast<const toolkit::Frame&>(control).border);
@@ -166,7 +150,7 @@ void checkcontrol(const toolkit::Control& control, QWidget& widget)
     }
 }
 
-TEST_F(GalleryTest, EachControlTellsWhatItIs)
+TEST_F(GalleryTest, AControlDoesNotTellWhatItIs)
 {
     for (const Exhibit& exhibit : gallery()) {
         if (exhibit.name == "ImgDisp") {
@@ -193,7 +177,7 @@ TEST_F(GalleryTest, EachControlTellsWhatItIs)
 }
 
 // From any record to the next ones, and to the one that a name means, with the keyboard alone.
-TEST_F(GalleryTest, TheNameListFollowsTheRecord)
+TEST_F(GalleryTest, TheNameListLosesTheRecord)
 {
     std::string way;
     walk(showpeople,
@@ -228,13 +212,3 @@ TEST_F(GalleryTest, TheNameListFollowsTheRecord)
 } // namespace
 
 } // namespace brindor::tests
-
-int main(int argc, char** argv)
-{
-    testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    QApplication::setCursorFlashTime(0);
-    brindor::toolkit::qt::dressapplication();
-    return RUN_ALL_TESTS();
-}
