@@ -121,8 +121,9 @@ const Story stories[] = {
      "click bar(0); click bar(1); click go; click target; click target",
      "bar(0) pressed, bar(0) clicked, bar(1) pressed, bar(1) clicked, go, drop of bar(1)"},
     {"EscapeClosesTheScreenOfABarThatItPutsDown", [](Everything& all) { all.escapecloses = true; },
-     "click bar(0); escape; click target; press bar(1); escape; letgo target; space bar(0); click target",
-     "bar(0) pressed, bar(0) clicked, bar(1) pressed, bar(0) clicked, drop of bar(0)"},
+     "click bar(0); escape; click target; press bar(1); escape; letgo target; press bar(1); escape; letgo bar(1); "
+     "space bar(0); click target",
+     "bar(0) pressed, bar(0) clicked, bar(1) pressed, bar(1) pressed, bar(0) clicked, drop of bar(0)"},
     {"AStepIsLostOrTakesTheFocusFromItsField",
      {},
      "type line 8; up line; stepup spin; stepup spin",

@@ -138,4 +138,9 @@ std::unique_ptr<Stage> makestage(const Verbs& own)
     return std::make_unique<MemoryStage>(own);
 }
 
+const char* stagename()
+{
+    return "in memory";
+}
+
 } // namespace brindor::tests

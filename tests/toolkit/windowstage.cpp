@@ -164,4 +164,9 @@ std::unique_ptr<Stage> makestage(const Verbs& own)
     return std::make_unique<WindowStage>(own);
 }
 
+const char* stagename()
+{
+    return "on windows";
+}
+
 } // namespace brindor::tests
