@@ -13,8 +13,10 @@ bool told = false;
 void tellfailureonce(const std::string& file, const std::string& reason)
 {
     if (!std::exchange(told, true)) {
-        toolkit::messagebox(file + " cannot be written: " + reason +
-                            ". The game goes on without it. Check the program's folder and the space on its disk.");
+        toolkit::messagebox(
+            file + " cannot be written: " + reason +
+            ". The game goes on, but settings and log may not be kept. Check the program's folder and the "
+            "space on its disk.");
     }
 }
 

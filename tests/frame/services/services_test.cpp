@@ -51,8 +51,9 @@ TEST_F(Services, AFailureToWriteIsToldOnce)
     logline("y", 2, 0);
     faultplan = {1, true, 0};
     writesettings();
-    EXPECT_EQ(tests::said(host), "bdqquiz.log cannot be written: Not a regular file. The game goes on without it. "
-                                 "Check the program's folder and the space on its disk.\n");
+    EXPECT_EQ(tests::said(host),
+              "bdqquiz.log cannot be written: Not a regular file. The game goes on, but settings and "
+              "log may not be kept. Check the program's folder and the space on its disk.\n");
 }
 
 } // namespace brindor
