@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     writeinput("events.csv", text.substr(std::min(parting + 1, text.size())));
     ::unlink("Own.bd3");
     const bool sound = !haserrors(checkfolder("."));
-    const bool made = !haserrors(maketimeline(".", "Own.bd3"));
+    const bool made = !haserrors(maketimeline(".", "Own.bd3", true).findings);
     require(made || !sound);
     require(made == (::access("Own.bd3", F_OK) == 0));
     if (made) {
