@@ -73,6 +73,26 @@ struct Filling {
 struct Pool {
     std::vector<char> refused; // one flag an item; empty where nothing is known
     std::vector<std::int16_t> open;
+    std::int16_t type = 0;  // of the question that this is known of
+    std::int16_t drawn = 0; // its slots so far, with these items
+    decltype(chosen) items{};
+
+    // Forgets what belongs to another question than the one whose slots before this one were drawn as they stand.
+    void begin(std::int16_t slot)
+    {
+        const bool goeson = slot > 0 && slot == drawn && qtype == type &&
+                            std::equal(items.begin(), items.begin() + slot, chosen.begin());
+        if (!goeson) {
+            refused.clear();
+        }
+    }
+
+    void end(std::int16_t slot)
+    {
+        type = qtype;
+        drawn = index16(slot + 1);
+        items = chosen;
+    }
 
     // Opens the items with a mark below the level, and gives the lowest mark of the others.
     int admit(std::span<const std::int16_t> marks, int level)
@@ -119,9 +139,7 @@ std::int16_t draw(const TextPieces& compared, std::span<const std::int16_t> mark
     const auto good = [&](std::int16_t item) { return texts.accept(compared, item, slot); };
     int level = 1;
     int tries = 0;
-    if (slot == 0) {
-        pool.refused.clear();
-    }
+    pool.begin(slot);
     if (pool.refused.size() != marks.size()) {
         constexpr int plaintries = 16;
         for (; tries < plaintries; ++tries) {
@@ -175,12 +193,12 @@ std::int16_t getitem(std::int16_t slot)
         count > 0
             ? draw(compared, std::span(usedmarks).subspan(usedslot(isperson, 0), static_cast<std::size_t>(count)), slot)
             : std::int16_t{-1};
-    if (item == -1) {
-        return 0;
+    if (item != -1) {
+        chosen[static_cast<std::size_t>(slot)] = item;
+        raisemark(usedslot(isperson, item), slot == 0 ? askedmark : shownmark);
     }
-    chosen[static_cast<std::size_t>(slot)] = item;
-    raisemark(usedslot(isperson, item), slot == 0 ? askedmark : shownmark);
-    return item;
+    pool.end(slot);
+    return std::max<std::int16_t>(item, 0);
 }
 
 // Goes through the items once, whatever number of types is still open, since memory is what it waits for.

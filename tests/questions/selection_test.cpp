@@ -110,6 +110,24 @@ TEST_F(Selection, EqualTextsAndTooFewItems)
     EXPECT_EQ(fillabletypes(), datesalone);
 }
 
+// What was found out of the items for one question is not believed of another.
+TEST_F(Selection, ASlotThatIsAskedForAgainLooksAnew)
+{
+    tests::setnumbered(6, 0);
+    qtype = 6;
+    for (int round = 0; round < 20; ++round) {
+        usedmarks.assign(usedmarks.size(), 100);
+        usedmarks[0] = usedmarks[1] = 50; // the two that slots 0 and 1 take
+        const std::int16_t first = getitem(0);
+        usedmarks[static_cast<std::size_t>(first)] = 50;
+        getitem(1);
+        chosen[0] = 5;
+        usedmarks.assign(usedmarks.size(), 100);
+        usedmarks[static_cast<std::size_t>(first)] = 50;
+        EXPECT_EQ(getitem(1), first);
+    }
+}
+
 TEST_F(Selection, WhereNothingCanPassItEnds)
 {
     tests::settimeline({}, {});
