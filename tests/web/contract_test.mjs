@@ -1,0 +1,92 @@
+// The stories of tests/toolkit on the page: the test program runs there and asks for one act after the other.
+import assert from "node:assert";
+import { test } from "node:test";
+import { opengame, web } from "./game.mjs";
+import { alt, answer, control, line, named } from "./person.mjs";
+
+// Where a control was seen when its screen came up: a person may still click there when it has gone.
+async function places(page, known) {
+    const now = await page.run(() => Object.fromEntries([...document.querySelectorAll("[data-control]")].map((one) => {
+        const { left, top, width, height } = one.getBoundingClientRect();
+        const screen = one.closest("section.screen").dataset.screen;
+        return [`${screen}.${one.dataset.control}`, width * height > 0 && { left, top, width, height }];
+    })));
+    Object.entries(now).forEach(([name, place]) => place && (known[name] = place));
+}
+
+// Near the left edge, where no bar covers a description.
+async function where(person, known, act) {
+    await places(person.page, known);
+    const { left, top, width, height } = known[`${act.screen}.${act.control}`];
+    return { x: left + Math.min(6, width / 2), y: top + height / 2 };
+}
+
+const key = (name) => async (person) => person.key(name);
+const click = async (person, known, act) => person.clickat(await where(person, known, act));
+const half = (name) => async (person, known, act) =>
+    person.clickat(await person.at(`${named(act.control)} [data-step="${name}"]`));
+const answered = (which) => async (person) => person.clickat(await person.at(answer(which)));
+
+async function pick(person, known, act, clickCount = 1) {
+    if (act.control === "combo") {
+        await person.clickat(await person.at(`${named("combo")} ~ button`));
+        return person.clickat(await person.at(`[role=option]:nth-child(${+act.more + 1})`));
+    }
+    return person.clickat(await person.at(line(act.control, +act.more)), { clickCount });
+}
+
+const verbs = {
+    click, pick,
+    right: async (person, known, act) => person.clickat(await where(person, known, act), { button: "right" }),
+    twice: async (person, known, act) => {
+        await pick(person, known, act);
+        return pick(person, known, act, 2);
+    },
+    space: async (person, known, act) => {
+        await person.tabto(named(act.control));
+        await person.key(" ");
+    },
+    alt: async (person) => person.key("g", alt),
+    type: async (person, known, act) => {
+        await click(person, known, act);
+        await person.key("End", control);
+        await person.type(act.more);
+    },
+    press: async (person, known, act) => {
+        const at = await where(person, known, act);
+        await person.mouse("Moved", at, { button: "none" });
+        await person.mouse("Pressed", at);
+    },
+    letgo: async (person, known, act) => {
+        const at = await where(person, known, act);
+        await person.mouse("Moved", at, { buttons: 1 });
+        await person.mouse("Released", at);
+    },
+    stepup: half("1"), stepdown: half("-1"),
+    up: key("ArrowUp"), return: key("Enter"), escape: key("Escape"),
+    close: async (person, known, act) =>
+        person.clickat(await person.at(`section.screen[data-screen="${act.screen}"] [data-close]`)),
+    yes: answered("yes"), no: answered("no"),
+};
+
+test("The page breaks a promise that hosts give", async () => {
+    const { page, person, close } = await opengame("", {}, { folder: `${web}contract` });
+    for (let front = await person.settled(), known = {}; front; front = await person.settled()) {
+        await places(page, known);
+        const act = await page.run(() => globalThis.stage.acts[0]);
+        const mine = act?.on === front || (act?.on === "message" && front === "message");
+        if (!mine || act.program) {
+            await page.run((mine) => {
+                const { acts, act } = globalThis.stage;
+                act(mine ? acts.shift().number : -1);
+            }, mine);
+        } else {
+            await page.run(() => globalThis.stage.acts.shift());
+            await verbs[act.verb](person, known, act);
+        }
+    }
+    const failed = page.said.filter((text) => /FAILED|Failure|Which is|^ {2}/.test(text));
+    assert.deepEqual(failed, []);
+    assert.ok(page.said.some((text) => /PASSED.* 25 tests/.test(text)), page.said.slice(-5).join("\n"));
+    await close();
+});
