@@ -93,7 +93,7 @@ export class Person {
     async key(key, modifiers = 0) {
         const code = keys[key] ?? key.toUpperCase().charCodeAt(0);
         const text = key === "Enter" ? "\r" : key.length > 1 || modifiers & (control | alt) ? "" : key;
-        const about = { key, windowsVirtualKeyCode: code, modifiers };
+        const about = { key, code: /^[a-z]$/i.test(key) ? `Key${key.toUpperCase()}` : key, windowsVirtualKeyCode: code, modifiers };
         await this.input("Key", { type: text ? "keyDown" : "rawKeyDown", text, ...about });
         await this.input("Key", { type: "keyUp", ...about });
         return this.settled();
