@@ -16,7 +16,7 @@
 EM_JS(void, stage_begin, (const char* acts), {
     globalThis.stage = {
         acts: JSON.parse(UTF8ToString(acts)),
-        act: (number) => { Module._stage_act(number); Module.page.wake(); },
+        act: (number) => { Module._stage_act(number); Module.page.tell(0, 'stage'); },
     };
 });
 EM_JS(int, stage_left, (), { return globalThis.stage.acts.length; });
@@ -91,4 +91,12 @@ const char* stagename()
 extern "C" EMSCRIPTEN_KEEPALIVE void stage_act(int number)
 {
     brindor::tests::stage->act(number);
+}
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    const int failed = RUN_ALL_TESTS();
+    brindor::toolkit::web::tellended();
+    return failed;
 }

@@ -51,7 +51,7 @@ export class Browser {
         this.pages.set(sessionId, page);
         await Promise.all(["Runtime.enable", "Log.enable", "Page.enable"].map((method) => page.call(method)));
         await page.size(width, height, touch);
-        await page.call("Page.navigate", { url });
+        await page.go("Page.navigate", { url });
         return page;
     }
 
@@ -72,6 +72,12 @@ class Page {
         return this.browser.call(method, params, this.session);
     }
 
+    // Goes to a page, or loads it anew; gives when it is there.
+    go(method, params) {
+        const there = new Promise((done) => (this.there = done));
+        return Promise.all([this.call(method, params), there]);
+    }
+
     // What the console says; what is an error there, and what nobody caught.
     hear(method, params) {
         if (method === "Runtime.consoleAPICalled") {
@@ -83,6 +89,8 @@ class Page {
             this.errors.push(exception?.description ?? text);
         } else if (method === "Log.entryAdded" && params.entry.level === "error") {
             this.errors.push(`${params.entry.text} ${params.entry.url ?? ""}`);
+        } else if (method === "Page.domContentEventFired") {
+            this.there?.();
         } else if (method === "Inspector.targetCrashed") {
             this.errors.push("the page crashed");
         }

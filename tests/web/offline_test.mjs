@@ -39,7 +39,7 @@ const updated = (page) => page.run(async () => {
 });
 
 async function again({ page, person }) {
-    await page.call("Page.reload");
+    await page.go("Page.reload");
     return person.settled();
 }
 

@@ -74,7 +74,7 @@ test("Something that a person does brings the game out of order", { timeout: 360
             const seen = await page.run(look);
             asked += seen.fresh;
             if (seen.state === "ended") {
-                await page.call("Page.reload");
+                await page.go("Page.reload");
                 await person.settled();
                 continue;
             }

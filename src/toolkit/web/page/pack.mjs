@@ -1,5 +1,5 @@
 // Puts the page together: node pack.mjs PROGRAM GAME OUT
-// PROGRAM has brindor-web.js and .wasm, GAME the files of the game; OUT gets the folder site/, for any static server,
+// PROGRAM has brindor-web.js and .wasm, GAME the files of the game and, beside it, its icons; OUT gets the folder site/, for any static server,
 // and brindor.html, one file with everything but the maps.
 import { execFileSync } from 'node:child_process';
 import { cpSync, existsSync, mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
@@ -32,6 +32,10 @@ for (const name of ['brindor-web.js', 'brindor-web.wasm']) {
 for (const name of Object.keys(data)) {
     cpSync(join(game, name), join(site, name));
 }
+cpSync(join(page, 'manifest.webmanifest'), join(site, 'manifest.webmanifest'));
+for (const name of ['brindor.svg', 'brindor-256.png']) {
+    cpSync(join(game, '..', 'icons', name), join(site, name));
+}
 for (const period of periods) {
     const maps = join(period.replace('.bd3', '').toLowerCase(), 'maps');
     if (existsSync(join(game, maps))) {
@@ -39,11 +43,15 @@ for (const period of periods) {
     }
 }
 
+execFileSync('node', [join(page, 'version.mjs'), site]);
+
 // Everything in one: what would be fetched stands in the page as data addresses.
 const embedded = Object.entries({ ...data, 'brindor-web.wasm': 'application/wasm' }).map(([name, type]) =>
     [name, `data:${type};base64,${readFileSync(join(site, name), 'base64')}`]);
 const script = (text) => `<script>${text.replaceAll('</script', '<\\/script')}</script>`;
 const whole = files['index.html']
+    .replace(/<link rel="(apple-touch-icon|manifest)".*\n/g, '')
+    .replace('href="brindor.svg"', () => `href="data:image/svg+xml;base64,${readFileSync(join(site, 'brindor.svg'), 'base64')}"`)
     .replace('<link rel="stylesheet" href="style.css">', () => `<style>${files['style.css']}</style>`)
     .replace('<script src="brindor-web.js"></script>', () =>
         script(`embedded=${JSON.stringify(Object.fromEntries(embedded))}`) +

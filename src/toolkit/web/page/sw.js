@@ -1,6 +1,6 @@
 // The service worker: keeps the game on the device, so that it plays with the network gone. The build fills in what
 // belongs to this version: its files with what their contents hash to, all of them together, and all pictures together.
-const made = { files: {}, version: "", pictures: "" };
+const made = { files: {}, version: '', pictures: '' };
 
 // Another copy of the game may lie beside this one on the same server.
 const own = `brindor ${registration.scope} `;
@@ -11,7 +11,7 @@ const seen = `${own}pictures ${made.pictures}`;
 async function keep() {
     const cache = await caches.open(kept);
     const requests = Object.entries(made.files).map(
-        ([name, integrity]) => new Request(name, { integrity, cache: "no-cache" }));
+        ([name, integrity]) => new Request(name, { integrity, cache: 'no-cache' }));
     await cache.addAll(requests);
 }
 
@@ -23,7 +23,7 @@ async function forgetothers() {
 
 // What belongs to the version comes from the device alone; a picture comes from there once it was seen.
 async function give(request) {
-    const url = request.url.replace(/\/index\.html(?=$|[?#])/, "/");
+    const url = request.url.replace(/\/index\.html(?=$|[?#])/, '/');
     for (const name of [kept, seen]) {
         const here = await (await caches.open(name)).match(url, { ignoreSearch: true, ignoreVary: true });
         if (here) {
@@ -37,11 +37,11 @@ async function give(request) {
     return fetched;
 }
 
-addEventListener("install", (event) => event.waitUntil(keep()));
-addEventListener("activate", (event) => event.waitUntil(forgetothers()));
-addEventListener("message", () => skipWaiting());
-addEventListener("fetch", (event) => {
-    if (event.request.method === "GET" && event.request.url.startsWith(registration.scope)) {
+addEventListener('install', (event) => event.waitUntil(keep()));
+addEventListener('activate', (event) => event.waitUntil(forgetothers()));
+addEventListener('message', () => skipWaiting());
+addEventListener('fetch', (event) => {
+    if (event.request.method === 'GET' && event.request.url.startsWith(registration.scope)) {
         event.respondWith(give(event.request));
     }
 });
