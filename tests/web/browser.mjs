@@ -47,7 +47,7 @@ export class Browser {
     async open(url, { width = 1280, height = 800, touch = false } = {}) {
         const { targetId } = await this.call("Target.createTarget", { url: "about:blank" });
         const { sessionId } = await this.call("Target.attachToTarget", { targetId, flatten: true });
-        const page = new Page(this, targetId, sessionId);
+        const page = new Page(this, sessionId);
         this.pages.set(sessionId, page);
         await Promise.all(["Runtime.enable", "Log.enable", "Page.enable"].map((method) => page.call(method)));
         await page.size(width, height, touch);
@@ -56,6 +56,9 @@ export class Browser {
     }
 
     async close() {
+        if (this.process.exitCode !== null) {
+            return;
+        }
         const gone = new Promise((done) => this.process.once("exit", done));
         await this.call("Browser.close").catch(() => {});
         await gone;
@@ -64,8 +67,8 @@ export class Browser {
 }
 
 class Page {
-    constructor(browser, target, session) {
-        Object.assign(this, { browser, target, session, errors: [], said: [] });
+    constructor(browser, session) {
+        Object.assign(this, { browser, session, errors: [], said: [] });
     }
 
     call(method, params) {
@@ -118,9 +121,5 @@ class Page {
     async picture(file) {
         const { data } = await this.call("Page.captureScreenshot", {});
         writeFileSync(file, data, "base64");
-    }
-
-    close() {
-        return this.browser.call("Target.closeTarget", { targetId: this.target });
     }
 }

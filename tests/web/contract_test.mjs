@@ -24,13 +24,13 @@ async function where(person, known, act) {
 const key = (name) => async (person) => person.key(name);
 const click = async (person, known, act) => person.clickat(await where(person, known, act));
 const half = (name) => async (person, known, act) =>
-    person.clickat(await person.at(`${named(act.control)} [data-step="${name}"]`));
-const answered = (which) => async (person) => person.clickat(await person.at(answer(which)));
+    person.clickat(await person.at(`${named(act.control)} button:nth-child(${name})`));
+const answered = (which) => async (person) => person.clickat(await person.at(`${answer(which)}, ${answer("ok")}`));
 
 async function pick(person, known, act, clickCount = 1) {
     if (act.control === "combo") {
         await person.clickat(await person.at(`${named("combo")} ~ button`));
-        return person.clickat(await person.at(`[role=option]:nth-child(${+act.more + 1})`));
+        return person.clickat(await person.at(`#popup [role=option]:nth-child(${+act.more + 1})`));
     }
     return person.clickat(await person.at(line(act.control, +act.more)), { clickCount });
 }
@@ -62,15 +62,28 @@ const verbs = {
         await person.mouse("Moved", at, { buttons: 1 });
         await person.mouse("Released", at);
     },
-    stepup: half("1"), stepdown: half("-1"),
+    stepup: half(1), stepdown: half(2),
+    resize: async (person, known, act) => {
+        const { at, to } = await person.page.run((what, width) => {
+            const window = document.querySelector(what);
+            const { right, bottom, width: seen } = window.getBoundingClientRect();
+            const scale = seen / window.offsetWidth;
+            const at = { x: right - 3 * scale, y: bottom - 3 * scale };
+            return { at, to: { ...at, x: at.x + ((width - window.offsetWidth) * scale) / 2 } }; // it grows both ways
+        }, "section.screen:not([inert])", +act.more + 4);
+        await person.mouse("Moved", at, { button: "none" });
+        await person.mouse("Pressed", at);
+        await person.mouse("Moved", to, { buttons: 1 });
+        await person.mouse("Released", to);
+    },
     up: key("ArrowUp"), return: key("Enter"), escape: key("Escape"),
     close: async (person, known, act) =>
         person.clickat(await person.at(`section.screen[data-screen="${act.screen}"] [data-close]`)),
     yes: answered("yes"), no: answered("no"),
 };
 
-test("The page breaks a promise that hosts give", async () => {
-    const { page, person, close } = await opengame("", {}, { folder: `${web}contract` });
+test("The page breaks a promise that hosts give", async (t) => {
+    const { page, person } = await opengame(t, "", {}, [`${web}contract`, `${web}site`]);
     for (let front = await person.settled(), known = {}; front; front = await person.settled()) {
         await places(page, known);
         const act = await page.run(() => globalThis.stage.acts[0]);
@@ -88,5 +101,4 @@ test("The page breaks a promise that hosts give", async () => {
     const failed = page.said.filter((text) => /FAILED|Failure|Which is|^ {2}/.test(text));
     assert.deepEqual(failed, []);
     assert.ok(page.said.some((text) => /PASSED.* 25 tests/.test(text)), page.said.slice(-5).join("\n"));
-    await close();
 });

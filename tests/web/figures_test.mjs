@@ -26,9 +26,11 @@ function processortime(pid) {
     return sum(pid) / 100;
 }
 
-test("The start takes too many bytes or too much time", async () => {
-    const server = await serve(`${web}site`);
+test("The start takes too many bytes or too much time", async (t) => {
+    const server = await serve([`${web}site`]);
+    t.after(() => server.stop());
     const browser = new Browser();
+    t.after(() => browser.close());
     const page = await browser.open("about:blank");
     const before = processortime(browser.process.pid);
     await page.go("Page.navigate", { url: server.url });
@@ -39,15 +41,12 @@ test("The start takes too many bytes or too much time", async () => {
     const bytes = [...server.fetched].reduce((sum, [, size]) => sum + size, 0);
     report(`${seconds.toFixed(2)} s until it waits; ${bytes} bytes before the first question:`);
     server.fetched.forEach((size, name) => report(`${String(size).padStart(8)} ${name}`));
-    await browser.close();
-    await server.stop();
     assert.ok(bytes <= mostbytes, `${bytes} bytes`);
     assert.ok(seconds <= mostseconds, `${seconds} s`);
 });
 
-test("The next question comes late after the click", async () => {
-    const game = await opengame("?seed=3");
-    const { page, person } = game;
+test("The next question comes late after the click", async (t) => {
+    const { page, person } = await opengame(t, "?seed=3");
     await page.run(() => {
         const times = (globalThis.times = []);
         let clicked = 0;
@@ -72,7 +71,6 @@ test("The next question comes late after the click", async () => {
     const times = (await page.run(() => globalThis.times)).sort((a, b) => a - b);
     const median = times[Math.floor(times.length / 2)];
     report(`${times.length} questions: median ${median.toFixed(1)} ms, worst ${times.at(-1).toFixed(1)} ms`);
-    await game.close();
     assert.ok(times.length >= 50, `${times.length} questions`);
     assert.ok(median < mostmilliseconds, `${median} ms`);
 });

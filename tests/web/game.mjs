@@ -11,19 +11,16 @@ export function report(text) {
     console.log(`  ${text}`);
 }
 
-// Opens the game in a browser of its own, so that nothing is left of another visit.
-export async function opengame(query = "", size = {}, { folder = `${web}site`, server, browser } = {}) {
-    const own = { server: server ?? (await serve(folder)), browser: browser ?? new Browser() };
-    const page = await own.browser.open(own.server.url + query, size);
+// Opens the game in a browser of its own, so that nothing is left of another visit. Both end with the test `t`, which
+// fails where the console had something to say.
+export async function opengame(t, query = "", size = {}, folders = [`${web}site`]) {
+    const server = await serve(folders);
+    t.after(() => server.stop());
+    const browser = new Browser();
+    t.after(() => browser.close());
+    const page = await browser.open(server.url + query, size);
+    t.after(() => assert.deepEqual(page.errors, []));
     const person = new Person(page);
     await person.settled();
-    return {
-        ...own, page, person,
-        async close() {
-            await page.close();
-            browser || (await own.browser.close());
-            server || (await own.server.stop());
-            assert.deepEqual(page.errors, []);
-        },
-    };
+    return { server, browser, page, person };
 }

@@ -56,14 +56,14 @@ async function play(hand, person, kind) {
 }
 
 for (const kind of Object.keys(answers)) {
-    test(`A game of ${kind}: mouse, finger and keyboard do not come to the same`, async () => {
+    test(`A game of ${kind}: mouse, finger and keyboard do not come to the same`, async (t) => {
         const games = {};
         for (const [name, size] of Object.entries(sizes)) {
-            const game = await opengame("?seed=7", size);
+            const game = await opengame(t, "?seed=7", size);
             const hand = hands[name](game.person);
             await choose(hand, game.person, kinds[kind]);
             games[name] = await play(hand, game.person, kind);
-            await game.close();
+            await game.browser.close();
         }
         report(`${kind}: ${games.mouse.at(-2)}`);
         assert.equal(games.mouse.length, 11);

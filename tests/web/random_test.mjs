@@ -62,10 +62,9 @@ const acts = [
     [1, "leave", async (person) => person.key("Escape")],
 ].flatMap(([often, ...act]) => Array(often).fill(act));
 
-test("Something that a person does brings the game out of order", { timeout: 3600000 }, async () => {
+test("Something that a person does brings the game out of order", { timeout: 3600000 }, async (t) => {
     report(`BRINDOR_SEED=${seed}`);
-    const game = await opengame(`?seed=${seed}`);
-    const { person, page } = game;
+    const { person, page } = await opengame(t, `?seed=${seed}`);
     const last = [];
     let asked = 0;
     let steps = 0;
@@ -91,5 +90,4 @@ test("Something that a person does brings the game out of order", { timeout: 360
         throw fault;
     }
     report(`${steps} steps, ${asked} questions`);
-    await game.close();
 });

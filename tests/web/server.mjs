@@ -1,8 +1,8 @@
 // A server of static files on 127.0.0.1 as schools have them: compressed where the browser takes that, with a mark of
-// the content by which a browser asks again. `fetched` counts the bytes of each file that went out.
+// the content by which a browser asks again. What is in none of the folders is not there. `fetched` counts the bytes of each file that went out.
 import { createHash } from "node:crypto";
 import { once } from "node:events";
-import { readFileSync } from "node:fs";
+import { existsSync, readFileSync } from "node:fs";
 import { createServer } from "node:http";
 import { extname, join, normalize } from "node:path";
 import { gzipSync } from "node:zlib";
@@ -12,16 +12,15 @@ const types = {
     ".webmanifest": "application/manifest+json", ".svg": "image/svg+xml", ".png": "image/png", ".webp": "image/webp",
 };
 
-function answer(folder, fetched, request, response) {
+function answer(folders, fetched, request, response) {
     const path = normalize(decodeURIComponent(new URL(request.url, "http://here").pathname));
     const name = path.endsWith("/") ? path + "index.html" : path;
-    let content;
-    try {
-        content = readFileSync(join(folder, name));
-    } catch {
+    const folder = folders.find((one) => existsSync(join(one, name)));
+    if (!folder) {
         response.writeHead(404).end();
         return;
     }
+    let content = readFileSync(join(folder, name));
     const type = types[extname(name)] ?? "application/octet-stream";
     const etag = `"${createHash("sha256").update(content).digest("hex").slice(0, 16)}"`;
     const head = { "Content-Type": type, ETag: etag, "Cache-Control": "no-cache", Vary: "Accept-Encoding" };
@@ -37,16 +36,16 @@ function answer(folder, fetched, request, response) {
     response.writeHead(200, head).end(content);
 }
 
-export async function serve(folder, port = 0) {
+export async function serve(folders, port = 0) {
     const fetched = new Map();
-    const server = createServer((request, response) => answer(folder, fetched, request, response));
+    const server = createServer((request, response) => answer(folders, fetched, request, response));
     await once(server.listen(port, "127.0.0.1"), "listening");
     return {
         fetched,
         url: `http://127.0.0.1:${server.address().port}/`,
         stop() {
             server.closeAllConnections();
-            return new Promise((done) => server.close(done));
+            return new Promise((done) => server.close(() => done()));
         },
     };
 }

@@ -31,9 +31,8 @@ function outofreach() {
 }
 
 for (const [width, height, touch] of [[360, 640, true], [768, 1024, true], [1280, 800, false]]) {
-    test(`At ${width} pixels something is out of reach`, async () => {
-        const game = await opengame("?seed=11", { width, height, touch });
-        const { page, person } = game;
+    test(`At ${width} pixels something is out of reach`, async (t) => {
+        const { page, person } = await opengame(t, "?seed=11", { width, height, touch });
         const wrong = [];
         const seen = new Set();
         const look = async (front) => {
@@ -60,7 +59,6 @@ for (const [width, height, touch] of [[360, 640, true], [768, 1024, true], [1280
             const done = { message: answer("ok"), mchoice: named("choice(2)") };
             front = await press(done[front] ?? named("Command1"));
         }
-        await game.close();
         assert.deepEqual([...seen].sort(), ["ImgDisp", "PEntry", "bdqedit", "curStats", "eEntry", "main", "mchoice",
             "message", "qmatch", "qsort", "setup", "showscor"]);
         assert.deepEqual(wrong, []);
