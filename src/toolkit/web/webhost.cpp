@@ -18,7 +18,7 @@ using web::twipsinpixel;
 
 namespace {
 
-constexpr Size frame{2 * twipsinpixel, 34 * twipsinpixel}; // as the page draws it: an edge of a pixel and a title bar
+constexpr Size frame{2 * twipsinpixel, 26 * twipsinpixel}; // as the page draws it: an edge of a pixel and a title bar
 constexpr int scrollbar = 15;                              // pixels
 constexpr int leasttextwidth = 32;
 constexpr int endmargin = 8;

@@ -177,6 +177,7 @@ export function updateview(win, view, record) {
     style.backgroundColor = record.opaque ? record.back : 'transparent';
     style.color = record.fore;
     style.fontSize = `${record.size}px`;
+    style.setProperty('--size', `${record.size}px`);
     style.fontWeight = record.bold ? 'bold' : 'normal';
     root.classList.add(faces[record.face]);
     root.classList.toggle('surface', record.surface);

@@ -7,7 +7,6 @@ import { tell } from './queue.js';
 const windows = new Map();
 const desk = document.getElementById('desk');
 
-const titlebar = 34; // with the edge above and below; WebHost::framesize says the same
 const largest = 1.6;
 const question = { width: 800, height: 600 }; // the size that the scale of all windows goes by
 const narrow = matchMedia('(max-width: 699px)'); // one column then; style.css says the same
