@@ -27,7 +27,9 @@ export function makebar(win, record) {
             caption(root, bar.text);
             setattribute(root, 'aria-pressed', bar.held);
             root.classList.toggle('placed', bar.row >= 0);
-            root.style.order = (bar.row >= 0 ? bar.row : bar.control) * 2 + (bar.row >= 0 ? 1 : 0);
+            if (bar.row >= 0) {
+                root.style.order = bar.row * 2 + 1;
+            }
             if (bar.held) {
                 layer += 1;
                 root.style.zIndex = layer;
@@ -114,7 +116,6 @@ export function maketarget(win, record, view) {
     root.addEventListener('click', () => tell(win.serial, 'click', record.control));
     view.update = (label) => {
         update(label);
-        root.style.order = label.control * 2;
         describe(win);
     };
 }

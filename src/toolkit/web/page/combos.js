@@ -56,7 +56,7 @@ export function makecombo(win, record) {
         Object.assign(popup.style, {
             left: `${field.left}px`,
             width: `${field.width}px`,
-            fontSize: `${field.height * 0.6}px`,
+            fontSize: `${parseFloat(getComputedStyle(input).fontSize) * win.scale}px`,
             top: up ? 'auto' : `${field.bottom}px`,
             bottom: up ? `${innerHeight - field.top}px` : 'auto',
             maxHeight: `${Math.min(400, up ? field.top : below) - 8}px`,

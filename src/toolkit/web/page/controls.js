@@ -19,6 +19,7 @@ function makelabel(win, record) {
             words.textContent = shown(label.text);
             root.style.textAlign = label.align;
             root.classList.toggle('outlined', label.outlined);
+            root.classList.toggle('names', label.names >= 0);
             words.style.maxWidth = label.textwidth ? `${label.textwidth}px` : '';
         },
     };
@@ -181,6 +182,7 @@ export function updateview(win, view, record) {
     style.fontWeight = record.bold ? 'bold' : 'normal';
     root.classList.add(faces[record.face]);
     root.classList.toggle('surface', record.surface);
+    style.order = record.control * 2; // in one column; leaves room for what lies on it
     root.hidden = !record.visible;
     for (const element of root.matches('fieldset') ? [] : [root, ...root.querySelectorAll('input, button')]) {
         element.disabled = !record.enabled;

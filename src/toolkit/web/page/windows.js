@@ -82,7 +82,7 @@ function fit(win) {
     const within = (offset, most) => Math.min(most, Math.max(-most, offset));
     win.moved = { x: within(win.moved.x, room.x), y: within(win.moved.y, room.y) };
     win.section.style.transform = `translate(${room.x + win.moved.x}px, ${room.y + win.moved.y}px) scale(${shown})`;
-    win.scale = shown;
+    win.scale = narrow.matches ? 1 : shown;
     return shown;
 }
 
@@ -127,6 +127,10 @@ function place(win, places, [width, height]) {
         style.top = `${top}px`;
         style.width = `${wide}px`;
         style.height = `${high}px`;
+        // By the height of a picture behind it.
+        style.setProperty('--y', top / height);
+        style.setProperty('--share', win.views[index].record.size / height);
+        win.views[index].root.classList.toggle('low', top > height / 2);
     }
     win.canvas.style.width = `${width}px`;
     win.canvas.style.height = `${height}px`;
