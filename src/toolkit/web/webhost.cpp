@@ -216,8 +216,13 @@ void WebHost::dispatch(const Event& event)
     const bool exists = event.control >= 0 && static_cast<std::size_t>(event.control) < screen.controls.size();
     Control* control = exists ? screen.controls[static_cast<std::size_t>(event.control)] : nullptr;
     const bool taken = web::act(event, screen, control);
-    // What was refused stands in the page as the person left it.
-    if (window = windowof(event.window); window != nullptr && !taken && exists) {
+    window = windowof(event.window);
+    if (window == nullptr) {
+        return;
+    }
+    if (event.act == "resize") {
+        window->screenchanged = true;
+    } else if (!taken && exists) { // what was refused stands in the page as the person left it
         window->changed[static_cast<std::size_t>(event.control)] = true;
     }
 }

@@ -98,11 +98,12 @@ function updatescreen(win, record) {
     section.style.setProperty('--backdrop', record.backdrop ? `url("${addressof(record.backdrop)}")` : 'none');
     content.classList.toggle('fixed', !record.scrolls);
     win.caption.textContent = record.caption;
-    if (record.state === 2 && !win.filled) { // maximised
-        win.filled = true;
+    const maximised = record.state === 2;
+    if (maximised && !win.filled) {
         const { width, height } = pagesize();
         tell(win.serial, 'resize', -1, 2, `${width} ${height}`);
     }
+    win.filled = maximised;
     fit(win);
 }
 
