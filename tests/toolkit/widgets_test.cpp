@@ -146,6 +146,8 @@ TEST(PictureTest, AFailureHasAnotherNumberOrABombIsLoaded)
 TEST(PictureTest, ALargePictureIsKeptLargeOrLosesItsSize)
 {
     const ScratchFolder folder;
+    savepicture("most.png", 8000, 8000);
+    EXPECT_EQ(qt::loadpicturefile("most.png").error, 0);
     savepicture("wide.png", 8000, 1000);
     const PictureRef picture = qt::loadpicturefile("wide.png").picture;
     ASSERT_NE(picture, nullptr);
