@@ -53,8 +53,8 @@ TEST_F(SetupTest, ShowsTheSettingsAndChangesThemAtOnceOrAtItsEnd)
     for (std::int16_t level = 0; level < 3; ++level) {
         logstatus = level;
         nquestion = static_cast<std::int16_t>(level + 7);
-        EXPECT_EQ(visit("?; tmindif=5"), std::string(levels[level]) +
-                                             "+.+++++++++++\n!tmindif=5\n"); // the difficulty is out of reach
+        EXPECT_EQ(visit("?; tmindif=5"),
+                  std::string(levels[level]) + "+.+++++++++++\n!tmindif=5\n"); // the difficulty is out of reach
     }
     typeenabled[0] = 7;
     mindif = "7"; // opening makes it 1
@@ -67,7 +67,8 @@ TEST_F(SetupTest, ShowsTheSettingsAndChangesThemAtOnceOrAtItsEnd)
         EXPECT_EQ(typeenabled[static_cast<std::size_t>(line) + 1], -1);
         visit("List1#" + std::to_string(line));
     }
-    const std::string file = tests::contentof("bdq.INI"); // there is no way to cancel, and no type at all is not refused
+    const std::string file =
+        tests::contentof("bdq.INI"); // there is no way to cancel, and no type at all is not refused
     EXPECT_EQ(file.substr(0, 18), "1 9 3 2\r\n0 8 8 8\r\n");
     EXPECT_TRUE(file.ends_with("\r\n7\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n"));
 }
