@@ -1,8 +1,6 @@
 #include "editors/bdqedit.h"
 
 #include "support/programtest.h"
-#include "support/story.h"
-#include "support/timelines.h"
 #include "timeline/usedmarks.h"
 #include "timeline/writer.h"
 

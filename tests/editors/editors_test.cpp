@@ -1,8 +1,6 @@
 #include "editors/eentry.h"
 #include "editors/pentry.h"
 #include "support/programtest.h"
-#include "support/story.h"
-#include "support/timelines.h"
 #include "timeline/usedmarks.h"
 
 namespace brindor {
@@ -150,7 +148,7 @@ TEST_P(Editors, AChangedDateMovesTheRecordWithItsMarkAndTheCursorStays)
     }
 }
 
-TEST_P(Editors, ANewRecordStartsFromTheOneBeforeAndGoesToItsPlace)
+TEST_P(Editors, ANewRecordStartsFromTheOneBeforeGoesToItsPlaceAndIsPendingUntilThen)
 {
     const auto typed = [this](const std::string& steps, const std::string& look, const std::string& after) {
         tell({100, 200, 300}, 0, "cmdNew; Combo1=N; " + steps + "cmdNext:Y; ?", offerednew + "1 " + look + "|14\n",
@@ -168,10 +166,8 @@ TEST_P(Editors, ANewRecordStartsFromTheOneBeforeAndGoesToItsPlace)
     EXPECT_EQ(visit("cmdNew; ?; cmdNext; ?; cmdNext"),
               "1 [AB] ?|200|200||26\n" + offerednew + "Last in list\n1 [AB] |200|200||26\nLast in list\n");
     EXPECT_EQ(records(), "A 100:1, B 200:2");
-}
 
-TEST_P(Editors, APendingRecordOutlivesTheTitleBarsClose)
-{
+    // It outlives the title bar's close.
     setrecords({100, 200});
     EXPECT_EQ(visit("cmdNew; esc"), "!esc\n"); // nothing typed is lost by a key
     EXPECT_EQ(visit("?; cmdNext:Y"), "0 [AB] A|100|100|Line of A|14\n" + offerednew);
@@ -209,18 +205,15 @@ TEST_P(Editors, AKindThatNoOptionStandsForIsKept)
 }
 
 // No records, or a cursor that a failed load left outside them.
-TEST_P(Editors, AStoreWithoutARecordAtTheCursorAddsOne)
+TEST_P(Editors, AStoreWithoutARecordAtTheCursorAddsOneUnlessTheTimelineIsFull)
 {
     for (const auto outside : std::initializer_list<std::int16_t>{2, 32767, -1}) {
         tell({100, 200}, outside, "?; Combo1=N; date1=150; cmdOK:Y",
              std::to_string(outside) + " [AB] |0|0||14\n" + offered + "*", "A 100:1, N 150:0, B 200:2");
     }
     tell({}, 0, "Combo1=N; date1=150; cmdOK:Y", offered + "*", "N 150:0");
-}
-
-TEST_P(Editors, AFullTimelineTakesNoMoreAndKeepsWhatWasTyped)
-{
     setrecords(std::vector<std::int16_t>(32767, 100));
+    cursor = 0;
     EXPECT_EQ(visit("cmdNew; Combo1=N; cmdOK:Y; ?; cmdOK"),
               offerednew +
                   "The timeline is full: it holds 32767 records of this kind, the most that it can. Answer No "

@@ -2,8 +2,6 @@
 #include "editors/imgdisp.h"
 #include "editors/pentry.h"
 #include "support/programtest.h"
-#include "support/story.h"
-#include "support/timelines.h"
 
 namespace brindor {
 
@@ -98,8 +96,9 @@ TEST_F(OwnFields, AnEventsPictureRowFollowsTheRecordAndAFailedPictureIsTold)
     const std::string failed = "missing.png  53\n";
     const std::string first = "-500 -500 G1<G1G2G3> N1<N1N2N3> N1<N1N2N3> ";
     const std::string third = "-480 -480 G3<G1G2G3> N3<N1N2N3> N3<N1N2N3> ";
-    EXPECT_EQ(ofevent(0, "?; cmdNext; ?; cmdNext; ?; Combo1#0; ?; Combo1#2; ?; eImgName=b.png; ?"),
-              first + "a.png 640 480 a.png- - \n-490 -490 G2<G1G2G3> N2<N1N2N3> N2<N1N2N3>   - - - - - - \n" + failed +
+    EXPECT_EQ(ofevent(0, "cmdNew; cmdDelete; ?; cmdNext; ?; cmdNext; ?; Combo1#0; ?; Combo1#2; ?; eImgName=b.png; ?"),
+              "!cmdNew\n!cmdDelete\n" + first +
+                  "a.png 640 480 a.png- - \n-490 -490 G2<G1G2G3> N2<N1N2N3> N2<N1N2N3>   - - - - - - \n" + failed +
                   third + "  0 0 - - - \n" + // hidden by the event before
                   first + "a.png 640 480 a.png- - \n" + failed + third + "  0 0 a.png- - \n" + // the former one stays
                   third + "b.png 0 0 a.png- - \n"); // nothing is loaded while typing
@@ -130,15 +129,9 @@ TEST_F(OwnFields, AnEventsFieldsAreStoredAndOfferedToTheNext)
     EXPECT_EQ(ofevent(0, "date1=500.5; date2; date2=400; desc; ?").substr(0, 8), "500 500 ");
 }
 
-TEST_F(OwnFields, NewAndDeleteOfTheEventsAreLockedWithTheNationsAlone)
-{
-    EXPECT_EQ(ofevent(0, "cmdNew; cmdDelete"), "!cmdNew\n!cmdDelete\n");
-    nnations = 0;
-    EXPECT_EQ(ofevent(0, "cmdNew; cmdDelete"), "Delete: Delete this event?\n");
-}
-
 TEST_F(OwnFields, TheViewerFillsItsWindowAndClosesUnseenWithoutAPicture)
 {
+    nnations = 0; // unlocks New and Delete of the events
     std::string sizes;
     host.persons["ImgDisp"] = [&](Screen& screen) {
         const auto& image = static_cast<ImgDisp&>(screen).image1;
@@ -150,7 +143,8 @@ TEST_F(OwnFields, TheViewerFillsItsWindowAndClosesUnseenWithoutAPicture)
         }
         EXPECT_TRUE(userescape(screen));
     };
-    EXPECT_EQ(ofevent(0, "Eimage; eImgName=gone.png; Eimage"), "gone.png  53\n");
+    EXPECT_EQ(ofevent(0, "cmdDelete; Eimage; eImgName=gone.png; Eimage; cmdNew"),
+              "Delete: Delete this event?\ngone.png  53\n");
     EXPECT_EQ(sizes, "11941x8900 11941x8900 11941x8900 1x1 ");
     EXPECT_EQ(host.shown, (std::vector<std::string>{"eEntry", "ImgDisp"}));
 }

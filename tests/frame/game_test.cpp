@@ -5,7 +5,6 @@
 #include "frame/services/settings.h"
 #include "quiz/mchoice.h"
 #include "support/quiztest.h"
-#include "support/story.h"
 #include "timeline/writer.h"
 
 #include <filesystem>

@@ -4,7 +4,6 @@
 #include "questions/question.h"
 #include "questions/texts.h"
 #include "support/programtest.h"
-#include "support/timelines.h"
 #include "timeline/usedmarks.h"
 
 #include <cmath>

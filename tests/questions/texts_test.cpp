@@ -6,8 +6,6 @@
 #include "questions/sortvalues.h"
 #include "questions/types.h"
 #include "support/programtest.h"
-#include "support/story.h"
-#include "support/timelines.h"
 #include "timeline/usedmarks.h"
 
 namespace brindor {

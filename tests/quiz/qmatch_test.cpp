@@ -5,7 +5,6 @@
 #include "frame/services/score.h"
 #include "questions/texts.h"
 #include "support/quiztest.h"
-#include "support/story.h"
 
 #include <algorithm>
 

@@ -3,7 +3,6 @@
 #include "frame/services/log.h"
 #include "frame/services/score.h"
 #include "support/quiztest.h"
-#include "support/story.h"
 
 #include <numeric>
 

@@ -4,8 +4,6 @@
 #include "questions/question.h"
 #include "setup/curstats.h"
 #include "support/gametest.h"
-#include "support/story.h"
-#include "support/timelines.h"
 
 namespace brindor {
 

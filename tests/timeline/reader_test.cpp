@@ -1,7 +1,6 @@
 #include "timeline/reader.h"
 
 #include "support/programtest.h"
-#include "support/timelines.h"
 #include "timeline/usedmarks.h"
 #include "timeline/writer.h"
 

@@ -5,7 +5,6 @@
 #include "frame/services/settings.h"
 #include "questions/question.h"
 #include "support/gametest.h"
-#include "support/story.h"
 #include "timeline/timeline.h"
 
 #include <algorithm>
