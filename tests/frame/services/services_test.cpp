@@ -20,7 +20,7 @@ const std::string settingsfile = "1 4 10 2\r\n2 8 8 8\r\nMY TITLE.BMP\r\n"
                                  "0 2 0 1 0\r\n12648384 16777088 33023 16744576 0\r\n9001 9002 9004 9003 9005\r\n"
                                  "12001 12002 12004 12003 12005\r\n"
                                  "0 7 -3 0 0\r\n6 7 8 9 10\r\n-1 0 3 4 5\r\n1 2 3 4 32767\r\n"
-                                 "0\r\n-1\r\n0\r\n1\r\n0\r\n-1\r\n0\r\n-1\r\n0\r\n-1\r\n0\r\n-1\r\n0\r\n-1\r\n";
+                                 "0\r\n-1\r\n0\r\n1\r\n0\r\n-1\r\n0\r\n-1\r\n0\r\n-1\r\n0\r\n-1\r\n0\r\n3\r\n";
 
 class Services : public tests::GameTest {
 protected:
