@@ -2,7 +2,6 @@
 
 #include "base/files.h"
 #include "base/random.h"
-#include "support/timelines.h"
 
 namespace brindor::tests {
 

@@ -21,6 +21,8 @@ bool click(Control& control)
         return userclick(static_cast<OptionButton&>(control));
     case Kind::picture:
         return userclick(static_cast<Picture&>(control));
+    case Kind::label:
+        return userclick(static_cast<Label&>(control));
     default:
         return userfocus(control);
     }
