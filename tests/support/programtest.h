@@ -1,7 +1,10 @@
 #pragma once
 
+#include "base/files.h"
+#include "base/random.h"
 #include "support/memoryhost.h"
 #include "support/scratchfolder.h"
+#include "support/timelines.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +14,18 @@ namespace brindor::tests {
 // generator with a known seed, no planned file faults.
 class ProgramTest : public testing::Test {
 protected:
-    ProgramTest();
-    ~ProgramTest() override;
+    ProgramTest()
+    {
+        seedrandom(1);
+        setcatalogues({}, {}, {}, {});
+        settimeline({}, {});
+        mindate = 9999;
+        maxdate = -25000;
+        curperiod = 0;
+        curfile.clear();
+        viewonly = 1;
+    }
+    ~ProgramTest() override { faultplan = {}; }
 
     ScratchFolder folder;
     MemoryHost host;
