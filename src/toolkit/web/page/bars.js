@@ -18,6 +18,31 @@ function under(event, own) {
     return own && undefined;
 }
 
+// A copy of the bar that goes with the hand.
+function ghostof(root) {
+    const { left, top, width, height } = root.getBoundingClientRect();
+    const { backgroundColor, fontSize } = getComputedStyle(root);
+    const ghost = make('div', { className: 'bar ghost', textContent: root.textContent });
+    const large = root.offsetWidth ? width / root.offsetWidth : 1;
+    Object.assign(ghost.style, {
+        left: `${left}px`,
+        top: `${top}px`,
+        width: `${width}px`,
+        height: `${height}px`,
+        backgroundColor,
+        fontSize: `${parseFloat(fontSize) * large}px`,
+    });
+    document.body.append(ghost);
+    return ghost;
+}
+
+// What lies beyond the edge of a window that is too low comes to the hand.
+function scrolltowards(content, y) {
+    const edge = 40;
+    const { top, bottom } = content.getBoundingClientRect();
+    content.scrollTop += y < top + edge ? -12 : y > bottom - edge ? 12 : 0;
+}
+
 export function makebar(win, record) {
     const root = make('button', { type: 'button', className: 'bar' });
     const view = {
@@ -65,14 +90,12 @@ export function makebar(win, record) {
             const x = event.clientX - down.clientX;
             const y = event.clientY - down.clientY;
             if (!ghost && Math.abs(x) + Math.abs(y) > 8) {
-                ghost = root.cloneNode(true);
-                ghost.classList.add('ghost');
-                ghost.removeAttribute('data-control');
-                root.parentElement.append(ghost);
+                ghost = ghostof(root);
                 root.classList.add('away');
             }
             if (ghost) {
-                ghost.style.translate = `${x / win.scale}px ${y / win.scale}px`;
+                ghost.style.translate = `${x}px ${y}px`;
+                scrolltowards(win.content, event.clientY);
                 const target = under(event);
                 point(target?.record.drops ? target : null);
             }

@@ -107,7 +107,8 @@ function makeframe() {
         active: root,
         update(frame) {
             root.classList.toggle('bordered', frame.border);
-            legend.textContent = frame.border ? shown(frame.text) : '';
+            legend.hidden = !frame.border;
+            legend.textContent = shown(frame.text);
             root.setAttribute('role', frame.border ? 'group' : 'presentation');
         },
     };

@@ -71,7 +71,7 @@ function drag(win, down, handle, move) {
         return;
     }
     const at = { ...win.moved, width: win.record.width, height: win.record.height };
-    follow(handle, down, (event) => move(event.clientX - down.clientX, event.clientY - down.clientY, at), () => {});
+    follow(handle, down, (event) => move(event.clientX - down.clientX, event.clientY - down.clientY, at));
 }
 
 // Puts a window in the middle of the page, or where it was moved from there, as large as the page lets it be.
@@ -154,6 +154,12 @@ function present(win) {
         other.section.inert = other !== win;
     }
     win.section.classList.add('shown');
+    // The question, or whatever else a window says first.
+    const words = win.views.find(({ record }) => record.kind === 'label' && record.visible);
+    if (words) {
+        words.root.id = `words${win.serial}`;
+        win.section.setAttribute('aria-describedby', words.root.id);
+    }
     // Not an option that answers by itself to a Space that nobody meant.
     const first = win.views.find(({ active, record }) => record.visible && record.enabled && active.tabIndex >= 0 &&
         !(record.kind === 'option' && !record.presses) && active.checkVisibility?.() !== false);
