@@ -185,9 +185,10 @@ export function updateview(win, view, record) {
     root.classList.toggle('surface', record.surface);
     style.order = record.control * 2; // in one column; leaves room for what lies on it
     root.hidden = !record.visible;
-    for (const element of root.matches('fieldset') ? [] : [root, ...root.querySelectorAll('input, button')]) {
+    for (const element of [root, ...record.kind === 'frame' ? [] : root.querySelectorAll('input, button')]) {
         element.disabled = !record.enabled;
     }
+    setattribute(active, 'aria-disabled', record.enabled ? '' : 'true');
     root.classList.toggle('disabled', !record.enabled);
     setattribute(root, 'title', record.tip);
     setattribute(active, 'aria-label', record.says);

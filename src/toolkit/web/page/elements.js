@@ -41,7 +41,7 @@ export function follow(element, down, move, done = () => {}) {
 }
 
 export function setattribute(element, name, value) {
-    if (value === null || value === '') {
+    if (value === '') {
         element.removeAttribute(name);
     } else if (element.getAttribute(name) !== String(value)) {
         element.setAttribute(name, value);

@@ -11,6 +11,8 @@ const largest = 1.6;
 const question = { width: 800, height: 600 }; // the size that the scale of all windows goes by
 const narrow = matchMedia('(max-width: 699px)'); // one column then; style.css says the same
 
+const touched = matchMedia('(pointer: coarse)');
+
 // How large the windows are shown.
 function scale() {
     const margin = 16;
@@ -163,7 +165,8 @@ function present(win) {
     // Not an option that answers by itself to a Space that nobody meant.
     const first = win.views.find(({ active, record }) => record.visible && record.enabled && active.tabIndex >= 0 &&
         !(record.kind === 'option' && !record.presses) && active.checkVisibility?.() !== false);
-    if (first) {
+    // A field would bring up the keyboard of a device that is touched.
+    if (first && !(touched.matches && ['textbox', 'combo'].includes(first.record.kind))) {
         bring(win, first);
     } else {
         document.activeElement?.blur();
