@@ -2,7 +2,7 @@
 import assert from "node:assert";
 import { test } from "node:test";
 import { opengame, web } from "./game.mjs";
-import { alt, answer, control, line, named } from "./person.mjs";
+import { alt, answer, control, front, line, named } from "./person.mjs";
 
 // Where a control was seen when its screen came up: a person may still click there when it has gone.
 async function places(page, known) {
@@ -14,8 +14,12 @@ async function places(page, known) {
     Object.entries(now).forEach(([name, place]) => place && (known[name] = place));
 }
 
-// Near the left edge, where no bar covers a description.
+// Near the left edge, where no bar covers a description. For what lies below the window in front, that is moved aside.
 async function where(person, known, act) {
+    if (act.on !== act.screen && act.on !== "message") {
+        const bar = await person.at(`${front} header`, 0.2);
+        await person.dragto(bar, { ...bar, x: bar.x + 200 });
+    }
     await places(person.page, known);
     const { left, top, width, height } = known[`${act.screen}.${act.control}`];
     return { x: left + Math.min(6, width / 2), y: top + height / 2 };
@@ -70,7 +74,7 @@ const verbs = {
             const scale = seen / window.offsetWidth;
             const at = { x: right - 3 * scale, y: bottom - 3 * scale };
             return { at, to: { ...at, x: at.x + ((width - window.offsetWidth) * scale) / 2 } }; // it grows both ways
-        }, "section.screen:not([inert])", +act.more + 4);
+        }, front, +act.more + 4);
         await person.mouse("Moved", at, { button: "none" });
         await person.mouse("Pressed", at);
         await person.mouse("Moved", to, { buttons: 1 });
@@ -84,10 +88,10 @@ const verbs = {
 
 test("The page breaks a promise that hosts give", async (t) => {
     const { page, person } = await opengame(t, "", {}, [`${web}contract`, `${web}site`]);
-    for (let front = await person.settled(), known = {}; front; front = await person.settled()) {
+    for (let on = await person.settled(), known = {}; on; on = await person.settled()) {
         await places(page, known);
         const act = await page.run(() => globalThis.stage.acts[0]);
-        const mine = act?.on === front || (act?.on === "message" && front === "message");
+        const mine = act?.on === on;
         if (!mine || act.program) {
             await page.run((mine) => {
                 const { acts, act } = globalThis.stage;

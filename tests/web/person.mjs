@@ -8,9 +8,11 @@ const keys = {
 
 export const shift = 8, control = 2, alt = 1;
 
-// The selector of a control by its name on the screen in front or another one, of a line, of a button of a message.
-export const named = (name, screen = "") =>
-    `section.screen${screen ? `[data-screen="${screen}"]` : ":not([inert])"} [data-control="${name}"]`;
+// The window in front.
+export const front = "section.screen:not([inert])";
+
+// The selector of a control by its name on the screen in front, of a line, of a button of a message.
+export const named = (name) => `${front} [data-control="${name}"]`;
 export const line = (list, number) => `${named(list)} [role=option]:nth-child(${number + 1})`;
 export const answer = (which) => `dialog[open] [data-answer="${which}"]`;
 
@@ -91,7 +93,7 @@ export class Person {
     }
 
     async key(key, modifiers = 0) {
-        const code = keys[key] ?? key.toUpperCase().charCodeAt(0);
+        const code = keys[key] ?? (/^\w$/.test(key) ? key.toUpperCase().charCodeAt(0) : 0);
         const text = key === "Enter" ? "\r" : key.length > 1 || modifiers & (control | alt) ? "" : key;
         const about = { key, code: /^[a-z]$/i.test(key) ? `Key${key.toUpperCase()}` : key, windowsVirtualKeyCode: code, modifiers };
         await this.input("Key", { type: text ? "keyDown" : "rawKeyDown", text, ...about });
@@ -105,13 +107,18 @@ export class Person {
         }
     }
 
-    // Tabs to a thing.
+    // Tabs to a thing, the shorter way.
     async tabto(what) {
         for (let tabs = 0; tabs < 100; ++tabs) {
-            if (await this.page.run((selector) => document.activeElement?.matches(selector), what)) {
+            const way = await this.page.run((selector) => {
+                const here = document.activeElement;
+                const before = here?.compareDocumentPosition(document.querySelector(selector)) & 2;
+                return here?.matches(selector) ? "there" : before ? "back" : "on";
+            }, what);
+            if (way === "there") {
                 return;
             }
-            await this.key("Tab");
+            await this.key("Tab", way === "back" ? shift : 0);
         }
         throw new Error(`Tab does not come to ${what}`);
     }

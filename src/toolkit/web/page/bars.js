@@ -18,6 +18,31 @@ function under(event, own) {
     return own && undefined;
 }
 
+// A copy of the bar that goes with the hand.
+function ghostof(root) {
+    const { left, top, width, height } = root.getBoundingClientRect();
+    const { backgroundColor, fontSize } = getComputedStyle(root);
+    const ghost = make('div', { className: 'bar ghost', textContent: root.textContent });
+    const large = root.offsetWidth ? width / root.offsetWidth : 1;
+    Object.assign(ghost.style, {
+        left: `${left}px`,
+        top: `${top}px`,
+        width: `${width}px`,
+        height: `${height}px`,
+        backgroundColor,
+        fontSize: `${parseFloat(fontSize) * large}px`,
+    });
+    document.body.append(ghost);
+    return ghost;
+}
+
+// What lies beyond the edge of a window that is too low comes to the hand.
+function scrolltowards(content, y) {
+    const edge = 40;
+    const { top, bottom } = content.getBoundingClientRect();
+    content.scrollTop += y < top + edge ? -12 : y > bottom - edge ? 12 : 0;
+}
+
 export function makebar(win, record) {
     const root = make('button', { type: 'button', className: 'bar' });
     const view = {
@@ -27,7 +52,9 @@ export function makebar(win, record) {
             caption(root, bar.text);
             setattribute(root, 'aria-pressed', bar.held);
             root.classList.toggle('placed', bar.row >= 0);
-            root.style.order = (bar.row >= 0 ? bar.row : bar.control) * 2 + (bar.row >= 0 ? 1 : 0);
+            if (bar.row >= 0) {
+                root.style.order = bar.row * 2 + 1;
+            }
             if (bar.held) {
                 layer += 1;
                 root.style.zIndex = layer;
@@ -35,12 +62,10 @@ export function makebar(win, record) {
             describe(win);
         },
     };
-    let pointed = false; // the click that follows belongs to a press that has been told
     root.addEventListener('pointerdown', (down) => {
         if (down.button !== 0) {
             return;
         }
-        pointed = true;
         tell(win.serial, 'press', record.control);
         let ghost = null;
         let aim = null;
@@ -63,14 +88,12 @@ export function makebar(win, record) {
             const x = event.clientX - down.clientX;
             const y = event.clientY - down.clientY;
             if (!ghost && Math.abs(x) + Math.abs(y) > 8) {
-                ghost = root.cloneNode(true);
-                ghost.classList.add('ghost');
-                ghost.removeAttribute('data-control');
-                root.parentElement.append(ghost);
+                ghost = ghostof(root);
                 root.classList.add('away');
             }
             if (ghost) {
-                ghost.style.translate = `${x / win.scale}px ${y / win.scale}px`;
+                ghost.style.translate = `${x}px ${y}px`;
+                scrolltowards(win.content, event.clientY);
                 const target = under(event);
                 point(target?.record.drops ? target : null);
             }
@@ -93,15 +116,8 @@ export function makebar(win, record) {
             }
         });
     });
-    root.addEventListener('click', () => {
-        if (!pointed) {
-            tell(win.serial, 'click', record.control);
-        }
-        pointed = false;
-    });
-    root.addEventListener('keydown', () => {
-        pointed = false;
-    });
+    // A pointer's click has been told with its press, whatever came of that.
+    root.addEventListener('click', (event) => event.detail === 0 && tell(win.serial, 'click', record.control));
     return view;
 }
 
@@ -114,7 +130,6 @@ export function maketarget(win, record, view) {
     root.addEventListener('click', () => tell(win.serial, 'click', record.control));
     view.update = (label) => {
         update(label);
-        root.style.order = label.control * 2;
         describe(win);
     };
 }

@@ -19,6 +19,7 @@ function makelabel(win, record) {
             words.textContent = shown(label.text);
             root.style.textAlign = label.align;
             root.classList.toggle('outlined', label.outlined);
+            root.classList.toggle('names', label.names >= 0);
             words.style.maxWidth = label.textwidth ? `${label.textwidth}px` : '';
         },
     };
@@ -106,7 +107,8 @@ function makeframe() {
         active: root,
         update(frame) {
             root.classList.toggle('bordered', frame.border);
-            legend.textContent = frame.border ? shown(frame.text) : '';
+            legend.hidden = !frame.border;
+            legend.textContent = shown(frame.text);
             root.setAttribute('role', frame.border ? 'group' : 'presentation');
         },
     };
@@ -177,13 +179,16 @@ export function updateview(win, view, record) {
     style.backgroundColor = record.opaque ? record.back : 'transparent';
     style.color = record.fore;
     style.fontSize = `${record.size}px`;
+    style.setProperty('--size', `${record.size}px`);
     style.fontWeight = record.bold ? 'bold' : 'normal';
     root.classList.add(faces[record.face]);
     root.classList.toggle('surface', record.surface);
+    style.order = record.control * 2; // in one column; leaves room for what lies on it
     root.hidden = !record.visible;
-    for (const element of root.matches('fieldset') ? [] : [root, ...root.querySelectorAll('input, button')]) {
+    for (const element of [root, ...record.kind === 'frame' ? [] : root.querySelectorAll('input, button')]) {
         element.disabled = !record.enabled;
     }
+    setattribute(active, 'aria-disabled', record.enabled ? '' : 'true');
     root.classList.toggle('disabled', !record.enabled);
     setattribute(root, 'title', record.tip);
     setattribute(active, 'aria-label', record.says);

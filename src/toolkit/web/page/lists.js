@@ -52,7 +52,8 @@ export function makelist(win, record) {
                     mark(current);
                 }
             }
-            root.style.setProperty('--columns', list.columns);
+            root.classList.toggle('columns', list.columns > 1);
+            root.style.setProperty('--rows', Math.ceil(list.lines.length / list.columns));
             root.classList.toggle('many', list.multiselect);
             root.classList.toggle('pushesup', list.pushesup);
             setattribute(root, 'aria-multiselectable', list.multiselect);

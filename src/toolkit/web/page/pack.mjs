@@ -1,12 +1,12 @@
-// Puts the page together: node pack.mjs PROGRAM GAME OUT
-// PROGRAM has brindor-web.js and .wasm, GAME the files of the game and, beside it, its icons; OUT gets the folder site/, for any static server,
-// and brindor.html, one file with everything but the maps.
+// Puts the page together: node pack.mjs PROGRAM DATA OUT
+// PROGRAM has brindor-web.js and .wasm, DATA what the data of a native build is made in, with the icons beside it; OUT
+// gets the folder site/, for any static server, and brindor.html, one file with everything but the maps.
 import { execFileSync } from 'node:child_process';
-import { cpSync, existsSync, mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { cpSync, mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { dirname, join } from 'node:path';
 import { fileURLToPath } from 'node:url';
 
-const [program, game, out] = process.argv.slice(2);
+const [program, data, out] = process.argv.slice(2);
 const page = dirname(fileURLToPath(import.meta.url));
 const site = join(out, 'site');
 
@@ -18,8 +18,8 @@ const files = {
     'style.css': bundled('style.css'),
 };
 const periods = ['Ancient.bd3', 'Classic.bd3', 'Medieval.bd3', 'Modern.bd3'];
-const data = { 'bdqord.txt': 'text/plain', 'title.jpg': 'image/jpeg' };
-periods.forEach((name) => { data[name] = 'application/octet-stream'; });
+const fetched = { 'bdqord.txt': 'text/plain', 'title.jpg': 'image/jpeg' };
+periods.forEach((name) => { fetched[name] = 'application/octet-stream'; });
 
 rmSync(site, { recursive: true, force: true });
 mkdirSync(site, { recursive: true });
@@ -29,29 +29,28 @@ for (const [name, text] of Object.entries(files)) {
 for (const name of ['brindor-web.js', 'brindor-web.wasm']) {
     cpSync(join(program, name), join(site, name));
 }
-for (const name of Object.keys(data)) {
-    cpSync(join(game, name), join(site, name));
+for (const name of Object.keys(fetched)) {
+    cpSync(join(data, name === 'title.jpg' ? 'web' : 'made', name), join(site, name));
 }
 cpSync(join(page, 'manifest.webmanifest'), join(site, 'manifest.webmanifest'));
 for (const name of ['brindor.svg', 'brindor-256.png']) {
-    cpSync(join(game, '..', 'icons', name), join(site, name));
+    cpSync(join(data, '..', 'icons', name), join(site, name));
 }
 for (const period of periods) {
     const maps = join(period.replace('.bd3', '').toLowerCase(), 'maps');
-    if (existsSync(join(game, maps))) {
-        cpSync(join(game, maps), join(site, maps), { recursive: true });
-    }
+    cpSync(join(data, 'made', maps), join(site, maps), { recursive: true });
 }
 
 execFileSync('node', [join(page, 'version.mjs'), site]);
 
 // Everything in one: what would be fetched stands in the page as data addresses.
-const embedded = Object.entries({ ...data, 'brindor-web.wasm': 'application/wasm' }).map(([name, type]) =>
+const embedded = Object.entries({ ...fetched, 'brindor-web.wasm': 'application/wasm' }).map(([name, type]) =>
     [name, `data:${type};base64,${readFileSync(join(site, name), 'base64')}`]);
 const script = (text) => `<script>${text.replaceAll('</script', '<\\/script')}</script>`;
+const icon = `data:image/svg+xml;base64,${readFileSync(join(site, 'brindor.svg'), 'base64')}`;
 const whole = files['index.html']
     .replace(/<link rel="(apple-touch-icon|manifest)".*\n/g, '')
-    .replace('href="brindor.svg"', () => `href="data:image/svg+xml;base64,${readFileSync(join(site, 'brindor.svg'), 'base64')}"`)
+    .replace('brindor.svg', () => icon)
     .replace('<link rel="stylesheet" href="style.css">', () => `<style>${files['style.css']}</style>`)
     .replace('<script src="brindor-web.js"></script>', () =>
         script(`embedded=${JSON.stringify(Object.fromEntries(embedded))}`) +
