@@ -41,15 +41,10 @@ public:
         std::string text;
         int number = 0;
         for (const Act& act : acts_) {
-            text += (text.empty() ? "" : ",") + web::Json()
-                                                    .add("on", act.on)
-                                                    .add("verb", act.verb)
-                                                    .add("screen", act.screen.name)
-                                                    .add("control", act.control == nullptr ? "" : act.control->name)
-                                                    .add("more", act.more)
-                                                    .add("program", verbs_.contains(act.verb))
-.add("number", number++)
-                                                    .text();
+            text += (text.empty() ? "" : ",") + web::object("number", number++, "on", act.on, "verb", act.verb,
+                                                            "screen", act.screen.name, "control",
+                                                            act.control == nullptr ? "" : act.control->name, "more",
+                                                            act.more, "program", verbs_.contains(act.verb));
         }
         stage_begin(('[' + text + ']').c_str());
         showmodal(screen);

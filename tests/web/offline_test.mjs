@@ -9,7 +9,7 @@ import { opengame, web } from "./game.mjs";
 import { hands, named } from "./person.mjs";
 import { serve } from "./server.mjs";
 
-const source = fileURLToPath(new URL("../../src/toolkit/web/", import.meta.url));
+const version = fileURLToPath(new URL("../../src/toolkit/web/page/version.mjs", import.meta.url));
 const folder = mkdtempSync(join(tmpdir(), "brindor-site-"));
 cpSync(`${web}site`, folder, { recursive: true });
 after(() => rmSync(folder, { recursive: true }));
@@ -17,7 +17,7 @@ after(() => rmSync(folder, { recursive: true }));
 // Another version of the page, which ends in a comment; half done, where its worker does not know all of it.
 function publish(text, half) {
     appendFileSync(join(folder, "index.html"), `<!--${text}-->`);
-    execFileSync("node", [`${source}version.mjs`, `${source}page/sw.js`, folder]);
+    execFileSync("node", [version, folder]);
     half && appendFileSync(join(folder, "index.html"), "<!--half-->");
 }
 const versionof = (page) => page.run(() => document.lastChild.data ?? "as built");
@@ -51,7 +51,7 @@ async function maps({ page, person }, count) {
     }
     const widths = [];
     for (let event = 0; event < count; ++event) {
-        widths.push(await page.run((what) => document.querySelector(what).naturalWidth, named("Eimage")));
+        widths.push(await page.run((what) => document.querySelector(what).naturalWidth, `${named("Eimage")} img`));
         await press(named("cmdNext"));
     }
     return widths;
