@@ -43,7 +43,7 @@ for (const [width, height, touch] of [[360, 640, true], [768, 1024, true], [1280
             }
             return front;
         };
-        const press = async (what) => look(await person[touch ? "tapat" : "clickat"](await person.at(what)));
+        const press = async (what) => look(await person.clickat(await person.at(what)));
         const close = async () => press("section.screen:not([inert]) [data-close]");
         await look(await person.settled());
         for (const into of ["cmdsetup", "cmdEdit", "Command2"]) {
