@@ -116,7 +116,8 @@ TEST(LayoutTest, TheCanvasIsTooSmallTooLargeOrOutOfTheMiddle)
         std::vector<Box> boxes = {c.box};
         arrange(boxes, room, textroom);
         const CanvasPlan plan = plancanvas(boxes, room, 14, 8, c.centred);
-        EXPECT_EQ(textof({plan.origin.x, plan.origin.y, plan.canvas.width, plan.canvas.height}), c.canvas) << textof(c.box.record);
+        EXPECT_EQ(textof({plan.origin.x, plan.origin.y, plan.canvas.width, plan.canvas.height}), c.canvas)
+            << textof(c.box.record);
     }
 }
 
@@ -136,8 +137,7 @@ RC_GTEST_PROP(LayoutTest, ATextIsCutOrOutOfReachOrTheOrderIsLost, ())
         RC_ASSERT(canvas.united(a.placed.moved(plan.origin)) == canvas);
         RC_ASSERT(a.placed.height >= (a.heightfor ? a.heightfor(a.placed.width) : a.record.height));
         for (const Box& b : boxes) {
-            RC_ASSERT(a.record.top > b.record.top ||
-                      b.placed.top - a.placed.top >= b.record.top - a.record.top);
+            RC_ASSERT(a.record.top > b.record.top || b.placed.top - a.placed.top >= b.record.top - a.record.top);
             RC_ASSERT(a.record.bottom() > b.record.top || a.placed.bottom() <= b.placed.top);
         }
     }

@@ -55,7 +55,7 @@ std::string letter(char accesskey)
 
 const char* kindname(const Control& control)
 {
-    constexpr const char* names[] = {"label", "button", "option", "textbox", "list",
+    constexpr const char* names[] = {"label", "button", "option",  "textbox", "list",
                                      "combo", "frame",  "picture", "spin"};
     return isbar(control) ? "bar" : names[static_cast<std::size_t>(control.kind)];
 }
