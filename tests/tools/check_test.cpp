@@ -21,7 +21,7 @@ std::string withrows(const std::string& peoplerows, const std::string& eventrows
 TEST_F(Check, TellsTheFaultsOfEachSample)
 {
     for (const std::string name : {"good", "faults", "warnings", "many", "unplayable", "empty", "titled", "short",
-                                   "strange", "foreign", "unsaved"}) {
+                                   "strange", "foreign", "unsaved", "early"}) {
         sample(name);
         EXPECT_EQ(report(checkfolder(name)), contentof(SAMPLES "/" + name + "/report.txt"));
         const Findings made = maketimeline(name, "Out.bd3", true).findings;

@@ -59,6 +59,7 @@ TEST_F(Packs, WhatOnePacksAnotherAdds)
 {
     EXPECT_EQ(errors(packtimeline("My voyages", "v.zip", false, places)),
               "v.zip: 10 people, 11 events, 2 pictures; to be added to a game by timelinemaker add v.zip");
+    EXPECT_EQ(periodlist("or"), "Ancient, Classic, Medieval or Modern");
     packtimeline("My voyages", "again.zip", false, places);
     EXPECT_EQ(contentof("again.zip"), contentof("v.zip"));
     EXPECT_EQ(errors(addpack("v.zip", "", false, places)),
