@@ -63,8 +63,10 @@ TEST_F(Screens, TellTheirLettersAndTipsAndNoControlLiesOnAnother)
     host.pictures["a.png"] = 0;
     for (const char* name : {"main", "setup", "bdqedit", "curStats", "PEntry", "eEntry", "ImgDisp", "mchoice", "qsort",
                              "qmatch", "showscor"}) {
-        host.persons[name] = [&text](Screen& screen) {
+        host.persons[name] = [&](Screen& screen) {
             text += describe(screen);
+            EXPECT_TRUE(screen.width <= 1024 * 15 && screen.height <= 700 * 15) << screen.name;
+            EXPECT_EQ(screen.left * 2 + screen.width, host.display.width) << screen.name;
             expectapart(screen);
             if (screen.name == "qsort") {
                 userclick(tests::find<Button>(screen, "Command1"));

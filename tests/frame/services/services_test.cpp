@@ -33,20 +33,6 @@ protected:
     }
 };
 
-TEST_F(Services, ARestoreStoresNothingOnItsWayNorDoesARowOutsideTheTable)
-{
-    struct Plain : toolkit::Screen {
-    } screen;
-    screen.resize = [&screen] { placeform(screen, 3, storeplacement); };
-    screen.shown = true; // so that each step of the restore raises a resize
-    placements[3] = {2, 77, 5000, 6000};
-    placeform(screen, 3, restoreplacement);
-    placeform(screen, -1, storeplacement);
-    placeform(screen, 11, restoreplacement);
-    EXPECT_EQ(screen.width * 10 + screen.height + screen.windowstate, 65002);
-    EXPECT_EQ(placements[3].backcolor + placements[10].width, 12077);
-}
-
 TEST_F(Services, ScoreAndLogLinesFollowTheLevelAndAFailureToWriteIsToldOnce)
 {
     addscore(1, 1, 0);
