@@ -39,15 +39,6 @@ protected:
         }
     }
 
-    // Plays the questions of mchoice with answers that are all right or all wrong.
-    void answer(bool right)
-    {
-        host.persons["mchoice"] = [right](Screen& s) {
-            auto& m = static_cast<Mchoice&>(s);
-            userpress(m.choice[right ? static_cast<std::size_t>(m.rightchoice) : 4]);
-        };
-    }
-
     // Tells a story on the main screen, and quits.
     std::string run(const std::string& story, const std::function<std::string()>& look)
     {
@@ -69,10 +60,14 @@ protected:
 TEST_F(Game, CountsItsQuestionsFromNoughtAndLogsThem)
 {
     enableonly({1, 2, 7, 8, 12});
-    answer(false);
+    bool right = false;
+    host.persons["mchoice"] = [&right](Screen& s) {
+        auto& m = static_cast<Mchoice&>(s);
+        userpress(m.choice[right ? static_cast<std::size_t>(m.rightchoice) : 4]);
+    };
     playgame();
     EXPECT_GE(std::accumulate(usedmarks.begin(), usedmarks.end(), 0), 5 * 12); // drawn with 14, and 2 for being wrong
-    answer(true);
+    right = true;
     nquestion = 10;
     logstatus = 2;
     playgame();
