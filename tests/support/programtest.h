@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/files.h"
+#include "base/random.h"
 #include "support/memoryhost.h"
 #include "support/scratchfolder.h"
 #include "support/story.h"
@@ -13,8 +15,18 @@ namespace brindor::tests {
 // without windows, an empty Timeline, a random generator with a known seed, no planned file faults.
 class ProgramTest : public testing::Test {
 protected:
-    ProgramTest();
-    ~ProgramTest() override;
+    ProgramTest()
+    {
+        seedrandom(1);
+        setcatalogues({}, {}, {}, {});
+        settimeline({}, {});
+        mindate = 9999;
+        maxdate = -25000;
+        curperiod = 0;
+        curfile.clear();
+        viewonly = 1;
+    }
+    ~ProgramTest() override { faultplan = {}; }
 
     ScratchFolder folder;
     MemoryHost host;

@@ -14,9 +14,10 @@ namespace brindor::tests {
 // looks after each step whether the game is still in order. A fault fails the test and names the last steps.
 class RandomPlayer {
 public:
-    // Plays until `questions` were asked, then closes what is open. `slowest` is the most CPU that a step may cost,
-    // in milliseconds; 0 for no limit.
-    RandomPlayer(std::uint64_t seed, int questions, double slowest);
+    // Plays until `questions` were asked, or BRINDOR_QUESTIONS, then closes what is open. `slowest` is the most CPU
+    // that a step may cost, in milliseconds; 0 for no limit. The seed is BRINDOR_SEED, which repeats a run, else a
+    // fresh one; it is printed.
+    RandomPlayer(int questions, double slowest);
 
     void act(toolkit::Screen& screen); // one step on the screen in front
     bool answer();                     // of a message: Yes or No
@@ -28,14 +29,14 @@ public:
     int questionsasked() const { return asked_; }
 
 private:
-    bool done() const { return asked_ >= questions_; }
     std::int64_t drawn(std::int64_t below);
-    std::string typed();
-    void dosomething(toolkit::Screen& screen);
+    const auto& drawnof(const auto& pieces)
+    {
+        return pieces[static_cast<std::size_t>(drawn(static_cast<std::int64_t>(pieces.size())))];
+    }
     void use(toolkit::Control& control);
-    void leave(toolkit::Screen& screen);
     void look(const toolkit::Screen& screen);
-    void lookatquestion(const toolkit::Screen& screen);
+    void lookatquestion(const toolkit::Screen& screen, int worth);
     void lookatscore();
     void lookatlog();
     void require(bool condition, const std::string& what);
@@ -53,12 +54,8 @@ private:
     int worth_ = 0;          // points of the question in front
     int right_ = 0;
     int possible_ = 0;
-    std::int64_t logged_ = 0; // bytes of the log that were looked at
-    int askedbefore_ = 0;     // questions that the log was looked at for
+    std::size_t logged_ = 0; // bytes of the log that were looked at
+    int askedbefore_ = 0;    // questions that the log was looked at for
 };
-
-// BRINDOR_SEED, which repeats a run, else a fresh one; printed. BRINDOR_QUESTIONS, else as many as named.
-std::uint64_t seedwanted();
-int questionswanted(int otherwise);
 
 } // namespace brindor::tests

@@ -1,21 +1,25 @@
 #include "base/picturename.h"
 #include "everything.h"
 #include "support/scratchfolder.h"
+#include "toolkit/qt/displayzoom.h"
 #include "toolkit/qt/pictures.h"
 #include "toolkit/qt/qthost.h"
 #include "toolkit/qt/qttext.h"
 #include "windows.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
-#include <QDataStream>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QListWidget>
 #include <QTest>
 
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
 
 namespace brindor::tests {
@@ -103,17 +107,6 @@ void savepicture(const char* name, int width, int height)
     ASSERT_TRUE(image.save(name));
 }
 
-// The head of a BMP file that states a size and holds no pixels.
-std::string bmphead(qint32 width, qint32 height)
-{
-    QByteArray head;
-    QDataStream stream(&head, QIODevice::WriteOnly);
-    stream.setByteOrder(QDataStream::LittleEndian);
-    stream << quint16{0x4d42} << quint32{54} << quint32{0} << quint32{54} << quint32{40} << width << height
-           << quint16{1} << quint16{24};
-    return head.append(24, '\0').toStdString();
-}
-
 TEST(PictureTest, AFailureHasAnotherNumberOrABombIsLoaded)
 {
     const ScratchFolder folder;
@@ -123,7 +116,8 @@ TEST(PictureTest, AFailureHasAnotherNumberOrABombIsLoaded)
     writefile("empty.png", "");
     savepicture("good.png", 64, 48);
     writefile("cut.png", contentof("good.png").substr(0, 60));
-    writefile("manypixels.bmp", bmphead(10000, 10000));
+    const char* head = "424d36000000000000003600000028000000102700001027000001001800"; // 10,000 x 10,000 pixels
+    writefile("manypixels.bmp", QByteArray::fromHex(head).append(24, '\0').toStdString());
     writefile("huge.png", "");
     std::filesystem::resize_file("huge.png", largestpicturefile + 1);
     for (const auto& [file, error] : {std::pair{"missing.png", qt::picturenotfound},
@@ -146,12 +140,70 @@ TEST(PictureTest, AFailureHasAnotherNumberOrABombIsLoaded)
 TEST(PictureTest, ALargePictureIsKeptLargeOrLosesItsSize)
 {
     const ScratchFolder folder;
+    savepicture("most.png", 8000, 8000);
+    EXPECT_EQ(qt::loadpicturefile("most.png").error, 0);
     savepicture("wide.png", 8000, 1000);
     const PictureRef picture = qt::loadpicturefile("wide.png").picture;
     ASSERT_NE(picture, nullptr);
     EXPECT_EQ(QSize(picture->width, picture->height), QSize(8000, 1000));
     EXPECT_EQ(static_cast<const QPixmap*>(picture->pixels.get())->size(), QSize(4096, 512));
     EXPECT_EQ(qt::StretchedPicture().at(picture, {30, 40}, 2).size(), QSize(60, 80));
+}
+
+long percent(qt::Zoom zoom)
+{
+    return std::lround(zoom.factor() * 100);
+}
+
+TEST(ZoomTest, TheFirstZoomDoesNotSuitTheDisplay)
+{
+    const struct {
+        QSize workarea;
+        long percent;
+    } cases[] = {{{1024, 768}, 100},  {{1366, 768}, 100}, {{1920, 1080}, 135}, {{2560, 1440}, 180},
+                 {{3840, 2160}, 200}, {{1092, 614}, 90},  {{960, 540}, 79},    {{640, 400}, 57}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(percent(qt::startzoom(c.workarea)), c.percent) << c.workarea.width();
+    }
+}
+
+TEST(ZoomTest, AChoiceIsForgottenInTheNextRunOrABadFileDoesHarm)
+{
+    const ScratchFolder folder;
+    writefile("zoom.txt", "1920 1080 135\nnonsense\n800 600 9999\n7 7\n");
+    qt::ChosenZooms zooms("zoom.txt");
+    EXPECT_EQ(percent(zooms.of({1920, 1080}).value()), 135);
+    EXPECT_EQ(percent(zooms.of({800, 600}).value()), 400);
+    EXPECT_FALSE(zooms.of({7, 7}));
+    zooms.choose({1024, 768}, qt::nextzoom(qt::Zoom(1), 1));
+    zooms.choose({800, 600}, std::nullopt);
+    EXPECT_EQ(contentof("zoom.txt"), "1024 768 110\n1920 1080 135\n");
+    EXPECT_EQ(percent(qt::ChosenZooms("zoom.txt").of({1024, 768}).value()), 110);
+    EXPECT_EQ(percent(qt::nextzoom(qt::Zoom(1.1), -1)), 100);
+    EXPECT_EQ(percent(qt::nextzoom(qt::Zoom(0.5), -1)), 50);
+}
+
+RC_GTEST_PROP(ZoomTest, ASizeDriftsOverRoundTrips, ())
+{
+    const QtHost host;
+    const auto twips = rc::gen::inRange(3000, 10000);
+    for (const double zoom : {1.0, 0.79, 1.21}) {
+        qt::setbasezoom(qt::Zoom(zoom));
+        std::string log;
+        Everything all("all", log, nullptr);
+        const double width = all.width = *twips;
+        const double height = all.height = *twips;
+        showwhile(all, [&] {
+            const QSize size = windowof(all).size();
+            for (const QSize given : {size - QSize(7, 11), size}) {
+                windowof(all).resize(given);
+                QCoreApplication::processEvents();
+            }
+        });
+        qt::setbasezoom(qt::Zoom(1));
+        RC_ASSERT(std::count(log.begin(), log.end(), 'z') == 3); // resized, smaller and back
+        RC_ASSERT(all.width == width && all.height == height);
+    }
 }
 
 } // namespace

@@ -55,23 +55,6 @@ std::function<void(QWidget&)> clicks(const std::string& control)
 
 } // namespace
 
-void walk(const std::function<void()>& open, const std::vector<Step>& steps)
-{
-    std::size_t done = 0;
-    int waited = 0;
-    walk(open, [&](QWidget& front) {
-        constexpr int patience = 5000;
-        if (done == steps.size()) {
-            front.close();
-        } else if (front.objectName().toStdString() == steps[done].window) {
-            steps[done++].act(front);
-        } else if (++waited > patience) {
-            ADD_FAILURE() << steps[done].window << " did not come";
-            done = steps.size();
-        }
-    });
-}
-
 void click(QWidget& window, const std::string& control)
 {
     drag(window, control, control);
