@@ -49,33 +49,25 @@ protected:
         return text;
     }
 
-    std::string visit(void (*open)(), const std::string& story)
-    {
-        std::string transcript;
-        host.persons["PEntry"] = host.persons["eEntry"] = [&](Screen& screen) {
-            transcript = act(host, screen, story, [&screen] { return look(screen); });
-            userclose(screen);
-        };
-        open();
-        return transcript;
-    }
+    std::string ofperson(const std::string& story) { return visit("PEntry", showpeople, story, look); }
+    std::string ofevent(const std::string& story) { return visit("eEntry", showevents, story, look); }
 };
 
 // What is typed into a Catalogue's list is ignored; what is picked is offered to be stored.
 TEST_F(OwnFields, APersonsFactionOccupationAndDates)
 {
     viewonly = 0;
-    EXPECT_EQ(visit(showpeople, "?; cboFaction=typed; cmdNext; ?; cmdPrev; cboFaction#2; cboFaction=typed; cmdNext:Y; "
-                                "cboOccupation#0; cboFaction=typed; cmdNew; ?; cmdOK:Y"),
+    EXPECT_EQ(ofperson("?; cboFaction=typed; cmdNext; ?; cmdPrev; cboFaction#2; cboFaction=typed; cmdNext:Y; "
+                       "cboOccupation#0; cboFaction=typed; cmdNew; ?; cmdOK:Y"),
               "1000 1005 F1<F1F2F3> <O1O2> \n1010 1015 F2<F1F2F3> O2<O1O2> \n" + offered + offered +
-                  "1010 1010 F2<F1F2F3> O1<O1O2> \nNew person: Store new data?\n");
+                  "1010 1010 F2<F1F2F3> O1<O1O2> \nNew person: Store new data?\n*");
     std::string stored;
     for (const PersonRec& person : people) {
         stored += person.name + ' ' + std::to_string(person.faction) + ' ' + std::to_string(person.occupation) + ", ";
     }
     EXPECT_EQ(stored, "Person 0 3 9, Person 1 2 2, ? 2 1,  0 0, ");
     const std::string lists = "F3<F1F2F3> <O1O2> \n";
-    EXPECT_EQ(visit(showpeople, "cmdPrev; date1=500.5; date2; ?; date2=400; Option2; ?; date1=600; desc; ?"),
+    EXPECT_EQ(ofperson("cmdPrev; date1=500.5; date2; ?; date2=400; Option2; ?; date1=600; desc; ?"),
               "500.5 1005 " + lists + "500.5 500.5 " + lists + "600 500.5 " + lists);
 }
 
@@ -84,18 +76,16 @@ TEST_F(OwnFields, AnEventsPictureRowFollowsTheRecordAndAFailedPictureIsTold)
     const std::string failed = "missing.png  53\n";
     const std::string first = "-500 -500 G1<G1G2G3> N1<N1N2N3> N1<N1N2N3> ";
     const std::string third = "-480 -480 G3<G1G2G3> N3<N1N2N3> N3<N1N2N3> ";
-    EXPECT_EQ(
-        visit(showevents, "cmdNew; cmdDelete; ?; cmdNext; ?; cmdNext; ?; Combo1#0; ?; Combo1#2; ?; eImgName=b.png; ?"),
-        "!cmdNew\n!cmdDelete\n" + first +
-            "a.png 640 480 a.png- - \n-490 -490 G2<G1G2G3> N2<N1N2N3> N2<N1N2N3>   - - - - - - \n" + failed + third +
-            "  0 0 - - - \n" +                                                           // hidden by the event before
-            first + "a.png 640 480 a.png- - \n" + failed + third + "  0 0 a.png- - \n" + // the former one stays
-            third + "b.png 0 0 a.png- - \n"); // nothing is loaded while typing
+    EXPECT_EQ(ofevent("cmdNew; cmdDelete; ?; cmdNext; ?; cmdNext; ?; Combo1#0; ?; Combo1#2; ?; eImgName=b.png; ?"),
+              "!cmdNew\n!cmdDelete\n" + first +
+                  "a.png 640 480 a.png- - \n-490 -490 G2<G1G2G3> N2<N1N2N3> N2<N1N2N3>   - - - - - - \n" + failed +
+                  third + "  0 0 - - - \n" + // hidden by the event before
+                  first + "a.png 640 480 a.png- - \n" + failed + third + "  0 0 a.png- - \n" + // the former one stays
+                  third + "b.png 0 0 a.png- - \n"); // nothing is loaded while typing
     EXPECT_EQ(events[2].imagename, "missing.png");
     events[0].imagename.clear();
     host.pictures["missing.png"] = -7;
-    EXPECT_EQ(visit(showevents, "Combo1#0; ?; Combo1#2"),
-              "missing.png -7\n" + first + " - - - - - - \nmissing.png -7\n");
+    EXPECT_EQ(ofevent("Combo1#0; ?; Combo1#2"), "missing.png -7\n" + first + " - - - - - - \nmissing.png -7\n");
 }
 
 // The two sizes alone are not offered, the picture's name is; a new event offers the last picture; the blank that a
@@ -103,11 +93,10 @@ TEST_F(OwnFields, AnEventsPictureRowFollowsTheRecordAndAFailedPictureIsTold)
 TEST_F(OwnFields, AnEventsFieldsAreStoredAndOfferedToTheNext)
 {
     viewonly = 0;
-    EXPECT_EQ(visit(showevents,
-                    "Text2=12.5; Text3=99999; cboGroup#0; cboNation1#1; cboNation2#2; cmdNext:Y; cmdPrev; "
-                    "Text2=1; Text3=1; cmdNext; cmdPrev; eImgName=b.png; cmdNext:Y; cmdPrev; cmdNew; cmdOK:Y"),
-              offered + offered + "New event: Store new data?\n");
-    EXPECT_EQ(visit(showevents, "Combo1#2; desc=x; cmdOK:Y"), "missing.png  53\n" + offered);
+    EXPECT_EQ(ofevent("Text2=12.5; Text3=99999; cboGroup#0; cboNation1#1; cboNation2#2; cmdNext:Y; cmdPrev; "
+                      "Text2=1; Text3=1; cmdNext; cmdPrev; eImgName=b.png; cmdNext:Y; cmdPrev; cmdNew; cmdOK:Y"),
+              offered + offered + "New event: Store new data?\n*");
+    EXPECT_EQ(ofevent("Combo1#2; desc=x; cmdOK:Y"), "missing.png  53\n" + offered + "*");
     std::string stored;
     for (const EventRec& event : events) {
         stored += event.imagename;
@@ -117,7 +106,7 @@ TEST_F(OwnFields, AnEventsFieldsAreStoredAndOfferedToTheNext)
         stored += ", ";
     }
     EXPECT_EQ(stored, "b.png 12 32767 1 2 3,   0 0 2 2 2,   0 0 3 3 3, b.png 12 32767 1 2 3,  0 0 0 0 0, ");
-    EXPECT_EQ(visit(showevents, "date1=500.5; date2; date2=400; desc; ?").substr(0, 8), "500 500 ");
+    EXPECT_EQ(ofevent("date1=500.5; date2; date2=400; desc; ?").substr(0, 8), "500 500 ");
 }
 
 TEST_F(OwnFields, TheViewerFillsItsWindowAndClosesUnseenWithoutAPicture)
@@ -134,7 +123,7 @@ TEST_F(OwnFields, TheViewerFillsItsWindowAndClosesUnseenWithoutAPicture)
         }
         EXPECT_TRUE(userescape(screen));
     };
-    EXPECT_EQ(visit(showevents, "cmdDelete; Eimage; eImgName=gone.png; Eimage; cmdNew"),
+    EXPECT_EQ(ofevent("cmdDelete; Eimage; eImgName=gone.png; Eimage; cmdNew"),
               "Delete: Delete this event?\ngone.png  53\n");
     EXPECT_EQ(sizes, "11941x8900 11941x8900 11941x8900 1x1 ");
     EXPECT_EQ(host.shown, (std::vector<std::string>{"eEntry", "ImgDisp"}));

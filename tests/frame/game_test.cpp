@@ -1,8 +1,6 @@
 #include "frame/game.h"
 
-#include "base/files.h"
 #include "frame/mainscreen.h"
-#include "frame/services/settings.h"
 #include "quiz/mchoice.h"
 #include "support/quiztest.h"
 #include "timeline/writer.h"
@@ -40,16 +38,11 @@ protected:
     }
 
     // Tells a story on the main screen, and quits.
-    std::string run(const std::string& story, const std::function<std::string()>& look)
+    std::string run(const std::string& story, const std::function<std::string(Screen&)>& look)
     {
-        std::string transcript;
-        host.persons["main"] = [&](Screen& screen) {
-            transcript = said(host);
-            transcript += act(host, screen, story, look);
-            userclose(screen);
-        };
-        MainScreen screen(folder.path().string());
-        showmodal(screen);
+        MainScreen main(folder.path().string());
+        const std::string transcript = visit(
+            "main", [&main] { showmodal(main); }, story, look);
         return transcript + said(host);
     }
 
@@ -136,13 +129,13 @@ TEST_F(Game, StartsInOrderAndEndsWithTheSettings)
     viewonly = 0;
     std::filesystem::current_path("/");
     EXPECT_EQ(run("?; Command3; Command3; ?; cmdCatalog",
-                  [] {
+                  [](Screen& screen) {
                       std::string text;
-                      for (const Control* control : topscreen()->controls) {
+                      for (const Control* control : screen.controls) {
                           text += control->visible ? control->text + '|' : "-";
                       }
-                      return text + (topscreen()->backdrop ? "picture|" : "plain|") + std::to_string(peoplecount()) +
-                             '|' + std::to_string(viewonly) + '|' + log() +
+                      return text + (screen.backdrop ? "picture|" : "plain|") + std::to_string(peoplecount()) + '|' +
+                             std::to_string(viewonly) + '|' + log() +
                              (std::filesystem::exists("bdq.INI") ? "written" : "");
                   }),
               "Brindor History Trivia Game|Version 1.03|--Play|Setup|About|Catalog|Quit|picture|30|1|\n"
@@ -156,7 +149,7 @@ TEST_F(Game, GoesOnWithoutAnyFileOrFolder)
 {
     const std::string missing = "Ancient.bd3 cannot be opened: No such file or directory. Put the file into the "
                                 "program's folder, or choose another period. 30 Person 29 30 Event 29\n";
-    EXPECT_EQ(run("?; Command1", [] { return std::string(topscreen()->backdrop ? "picture" : "plain"); }),
+    EXPECT_EQ(run("?; Command1", [](Screen& screen) { return std::string(screen.backdrop ? "picture" : "plain"); }),
               missing + "plain\nYou scored 0 out of 0 (0%)\n");
     EXPECT_TRUE(std::filesystem::exists("bdq.INI"));
     std::filesystem::remove_all(folder.path());

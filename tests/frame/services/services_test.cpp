@@ -1,9 +1,5 @@
 #include "base/files.h"
-#include "frame/services/log.h"
 #include "frame/services/placement.h"
-#include "frame/services/score.h"
-#include "frame/services/settings.h"
-#include "questions/question.h"
 #include "support/gametest.h"
 #include "timeline/timeline.h"
 
