@@ -128,8 +128,10 @@ TEST_F(Game, StartsInOrderAndEndsWithTheSettings)
     curperiod = -1;
     viewonly = 0;
     std::filesystem::current_path("/");
+    faultplan = {};
     EXPECT_EQ(run("?; Command3; Command3; ?; cmdCatalog",
                   [](Screen& screen) {
+                      EXPECT_LE(faultplan.calls, 10); // of the disk: settings looked for, log emptied, a timeline read
                       std::string text;
                       for (const Control* control : screen.controls) {
                           text += control->visible ? control->text + '|' : "-";
