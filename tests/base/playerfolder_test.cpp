@@ -13,6 +13,7 @@
 namespace brindor {
 
 namespace fs = std::filesystem;
+using tests::contentof;
 
 class PlayerFolder : public testing::Test {
 protected:
@@ -26,8 +27,6 @@ protected:
         fs::permissions("game/brindor", fs::perms::owner_all);
     }
     ~PlayerFolder() override { sharedfolder.clear(); }
-
-    static std::string contentof(const std::string& file) { return readwhole(file, 100).value.value_or("none"); }
 
     // The names below the player's folder, in alphabetical order.
     static std::string names()

@@ -4,14 +4,15 @@
 #include "base/random.h"
 #include "support/memoryhost.h"
 #include "support/scratchfolder.h"
+#include "support/story.h"
 #include "support/timelines.h"
 
 #include <gtest/gtest.h>
 
 namespace brindor::tests {
 
-// A test of its own small world: an empty scratch folder, a host without windows, an empty Timeline, a random
-// generator with a known seed, no planned file faults.
+// What nearly every test needs comes with this header. A test of its own small world: an empty scratch folder, a host
+// without windows, an empty Timeline, a random generator with a known seed, no planned file faults.
 class ProgramTest : public testing::Test {
 protected:
     ProgramTest()

@@ -1,4 +1,4 @@
-#include "toolkit/qt/layout.h"
+#include "toolkit/layout.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -11,15 +11,15 @@ namespace brindor::tests {
 
 namespace {
 
-using namespace toolkit::qt;
+using namespace toolkit;
 
-constexpr QSize room(400, 300);
+constexpr PixelSize room{400, 300};
 constexpr TextRoom textroom{32, 20};
 
 enum Trait : unsigned { hidden = 1, fillsrow = 2, narrows = 4, borderless = 8 };
 
 // A leaf or, where it needs a height, a text.
-Box box(QRect record, int needed = 0, unsigned traits = 0)
+Box box(PixelRect record, int needed = 0, unsigned traits = 0)
 {
     Box made;
     made.record = record;
@@ -32,7 +32,7 @@ Box box(QRect record, int needed = 0, unsigned traits = 0)
     return made;
 }
 
-Box frame(QRect record, std::vector<Box> children, unsigned traits = 0)
+Box frame(PixelRect record, std::vector<Box> children, unsigned traits = 0)
 {
     Box made = box(record);
     made.container = true;
@@ -41,10 +41,10 @@ Box frame(QRect record, std::vector<Box> children, unsigned traits = 0)
     return made;
 }
 
-std::string textof(const QRect& rect)
+std::string textof(const PixelRect& rect)
 {
-    return std::to_string(rect.x()) + ',' + std::to_string(rect.y()) + ' ' + std::to_string(rect.width()) + 'x' +
-           std::to_string(rect.height());
+    return std::to_string(rect.left) + ',' + std::to_string(rect.top) + ' ' + std::to_string(rect.width) + 'x' +
+           std::to_string(rect.height);
 }
 
 std::string placesof(const std::vector<Box>& boxes)
@@ -116,7 +116,8 @@ TEST(LayoutTest, TheCanvasIsTooSmallTooLargeOrOutOfTheMiddle)
         std::vector<Box> boxes = {c.box};
         arrange(boxes, room, textroom);
         const CanvasPlan plan = plancanvas(boxes, room, 14, 8, c.centred);
-        EXPECT_EQ(textof({plan.origin, plan.canvas}), c.canvas) << textof(c.box.record);
+        EXPECT_EQ(textof({plan.origin.x, plan.origin.y, plan.canvas.width, plan.canvas.height}), c.canvas)
+            << textof(c.box.record);
     }
 }
 
@@ -126,19 +127,18 @@ RC_GTEST_PROP(LayoutTest, ATextIsCutOrOutOfReachOrTheOrderIsLost, ())
     const auto number = [](int low, int high) { return *rc::gen::inRange(low, high); };
     std::vector<Box> boxes;
     for (int i = number(1, 8); i > 0; --i) {
-        const QRect record(number(-300, 500), number(-300, 500), number(1, 300), number(1, 100));
+        const PixelRect record{number(-300, 500), number(-300, 500), number(1, 300), number(1, 100)};
         boxes.push_back(box(record, number(-100, 200)));
     }
     arrange(boxes, room, textroom);
     const CanvasPlan plan = plancanvas(boxes, room, 14, 8, number(0, 2) == 0);
-    const QRect canvas(QPoint(0, 0), plan.canvas);
+    const PixelRect canvas{0, 0, plan.canvas.width, plan.canvas.height};
     for (const Box& a : boxes) {
-        RC_ASSERT(canvas.contains(a.placed.translated(plan.origin)));
-        RC_ASSERT(a.placed.height() >= (a.heightfor ? a.heightfor(a.placed.width()) : a.record.height()));
+        RC_ASSERT(canvas.united(a.placed.moved(plan.origin)) == canvas);
+        RC_ASSERT(a.placed.height >= (a.heightfor ? a.heightfor(a.placed.width) : a.record.height));
         for (const Box& b : boxes) {
-            RC_ASSERT(a.record.top() > b.record.top() ||
-                      b.placed.top() - a.placed.top() >= b.record.top() - a.record.top());
-            RC_ASSERT(a.record.bottom() >= b.record.top() || a.placed.bottom() < b.placed.top());
+            RC_ASSERT(a.record.top > b.record.top || b.placed.top - a.placed.top >= b.record.top - a.record.top);
+            RC_ASSERT(a.record.bottom() > b.record.top || a.placed.bottom() <= b.placed.top);
         }
     }
 }

@@ -128,6 +128,10 @@ TEST(PictureTest, AFailureHasAnotherNumberOrABombIsLoadedOrALargePictureKeptLarg
             EXPECT_EQ(loaded.picture, nullptr) << file;
         }
     }
+    QImage most(8000, 8000, QImage::Format_RGB32);
+    most.fill(Qt::darkGreen);
+    ASSERT_TRUE(most.save("most.png"));
+    EXPECT_EQ(qt::loadpicturefile("most.png").error, 0);
     const PictureRef picture = qt::loadpicturefile("wide.png").picture;
     ASSERT_NE(picture, nullptr);
     EXPECT_EQ(QSize(picture->width, picture->height), QSize(8000, 1000));

@@ -6,18 +6,6 @@
 
 namespace brindor::tests {
 
-namespace {
-
-void appendnumber(std::string& bytes, int number, int size)
-{
-    for (int i = 0; i < size; ++i) {
-        bytes += static_cast<char>(
-            static_cast<unsigned char>((static_cast<unsigned>(number) >> (8U * static_cast<unsigned>(i))) & 0xFFU));
-    }
-}
-
-} // namespace
-
 std::string peopleheader()
 {
     return "name,date1,kind1,date2,kind2,desc1,desc2,faction,occupation\n";
@@ -63,10 +51,9 @@ std::string goodevents()
            "Sack of Carthage,439,,,,The grain of Africa was lost.,,State,Vandals,Aksum,Carthage,36.85,10.32,\n";
 }
 
-std::string errors(authoring::Findings findings)
+void writegood(const std::string& peoplerows, const std::string& eventrows)
 {
-    std::erase_if(findings, [](const auto& finding) { return finding.severity != authoring::Severity::error; });
-    return report(findings);
+    writefolder("in", goodpeople() + peoplerows, goodevents() + eventrows);
 }
 
 std::string report(const authoring::Findings& findings)
@@ -78,19 +65,27 @@ std::string report(const authoring::Findings& findings)
     return text;
 }
 
+std::string errors(authoring::Findings findings)
+{
+    std::erase_if(findings, [](const auto& finding) { return finding.severity != authoring::Severity::error; });
+    return report(findings);
+}
+
+std::string errors(const authoring::Report& report)
+{
+    return errors(report.findings) + report.said;
+}
+
 std::string bmpfile(int width, int height)
 {
-    constexpr int headers = 54;
-    std::string bytes = "BM";
-    for (const int number : {headers + 4, 0, headers, 40, width, height}) {
-        appendnumber(bytes, number, 4);
-    }
-    appendnumber(bytes, 1, 2);
-    appendnumber(bytes, 24, 2);
-    for (int i = 0; i < 6; ++i) {
-        appendnumber(bytes, 0, 4);
-    }
-    return bytes + "gray";
+    std::string bytes = "BM" + std::string(56, '\0');
+    bytes[10] = 54; // where the pixels begin, behind two headers
+    bytes[14] = 40;
+    bytes[18] = static_cast<char>(width);
+    bytes[22] = static_cast<char>(height);
+    bytes[26] = 1;
+    bytes[28] = 24; // bits a pixel
+    return bytes;
 }
 
 } // namespace brindor::tests
