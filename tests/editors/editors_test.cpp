@@ -138,6 +138,9 @@ TEST_P(Editors, StoresEveryFieldOfTheRecordShown)
     EXPECT_EQ(closedwith, ofpeople ? "People Entry" : "Events Entry");
     EXPECT_EQ(visit("Combo1#0; ?"), "0 [NameB] Name|100|135|One\r\nTwo\r\nThree|26\n");
     EXPECT_EQ(item(0).desc1 + '|' + item(0).desc2, "One|Two\r\nThree");
+    const std::int64_t before = timelinestate;
+    visit("Combo1#0; desc=other; cmdOK:Y");
+    EXPECT_GT(timelinestate, before);
 }
 
 TEST_P(Editors, DescriptionsThereAndBack)
@@ -232,6 +235,9 @@ TEST_P(Editors, DeletesTheRecordAndItsMarkAndLeavesItsFields)
     item(0).desc3 = "Third of A";
     visit("cmdDelete:Y; cmdNew; cmdOK:Y");
     EXPECT_EQ(records() + item(0).desc3, "? 100:0 / 101 102Third of A");
+    const std::int64_t state = timelinestate;
+    visit("cmdDelete:Y");
+    EXPECT_GT(timelinestate, state);
 }
 
 TEST_P(Editors, AKindThatNoOptionStandsForIsKept)

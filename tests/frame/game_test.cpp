@@ -116,6 +116,7 @@ TEST_F(Game, DrawsTheTypes)
     for (PersonRec& person : people) {
         person.faction = person.occupation = 0;
     }
+    ++timelinestate;
     playround(1);
     EXPECT_EQ(counts, (std::map<std::int16_t, int>{{13, 2800}}));
 }

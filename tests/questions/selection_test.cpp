@@ -86,8 +86,10 @@ TEST_F(Selection, BlankTextsAreNeverDrawn)
     }
     EXPECT_EQ(drawn, "1 3 5 7 9 10 11 ");
     people[5] = people[4];
+    ++timelinestate;
     EXPECT_FALSE(fillabletypes()[2]);
     people[0].desc1 = "  "; // two blanks pass
+    ++timelinestate;
     EXPECT_TRUE(fillabletypes()[2]);
 }
 
@@ -97,6 +99,7 @@ TEST_F(Selection, EqualTextsAndTooFewItems)
         tests::setnumbered(6, 6);
         std::fill_n(people.begin(), equal, people[5]);
         std::fill_n(events.begin(), equal, events[5]);
+        ++timelinestate;
         const ByType<bool> fillable = fillabletypes();
         EXPECT_EQ(std::count(fillable.begin(), fillable.end(), true), equal < 2 ? lasttype : 0);
         for (std::int16_t type = 1; equal < 2 && type <= lasttype; ++type) {
@@ -105,6 +108,9 @@ TEST_F(Selection, EqualTextsAndTooFewItems)
     }
     people[1].desc2 = "other"; // only the first description line counts
     people[1].date2 = 2000;    // for some types only the first date does
+    people[1].faction = 1;     // another index, the same name
+    factions[1] = factions[6];
+    ++timelinestate;
     ByType<bool> datesalone{};
     datesalone[1] = true;
     EXPECT_EQ(fillabletypes(), datesalone);
