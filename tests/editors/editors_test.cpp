@@ -183,7 +183,11 @@ TEST_P(Editors, DeletesTheRecordAndItsMarkAndLeavesItsFields)
     // The slot of a deleted last record lends a new one what is not on the screen.
     setrecords({100});
     item(0).desc3 = "Third of A";
-    visit("cmdDelete:Y; cmdNew; cmdOK:Y");
+    std::int64_t state = timelinestate;
+    for (const char* change : {"cmdDelete:Y", "cmdNew; cmdOK:Y", "desc=x; cmdOK:Y"}) {
+        visit(change);
+        EXPECT_GT(timelinestate, std::exchange(state, timelinestate)) << change;
+    }
     EXPECT_EQ(records() + item(0).desc3, "? 100:0Third of A");
 }
 
