@@ -33,7 +33,8 @@ double cputime()
 Person::Person(std::function<void(QWidget&, double)> act) : act_(std::move(act)), began_(cputime())
 {
     qApp->installEventFilter(this);
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] { blocking(); });
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            [this] { blocking(); });
     arm();
 }
 
