@@ -106,10 +106,6 @@ void WebHost::update(Control& control)
 {
     if (Window* window = windowof(*control.screen)) {
         window->changed[static_cast<std::size_t>(web::indexof(*control.screen, &control))] = true;
-        // How a bar and its row are shown depends on both.
-        if (isbar(control)) {
-            window->screenchanged = true;
-        }
     }
 }
 
