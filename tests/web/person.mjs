@@ -125,15 +125,18 @@ export class Person {
 }
 
 // The three ways to do the same: press a thing, press a line of a list, bring a bar to a row.
+const pointing = (person, point) => ({
+    press: async (what) => person[point](await person.at(what)),
+    line: async (list, number) => person[point](await person.at(line(list, number))),
+});
+
 export const hands = {
     mouse: (person) => ({
-        press: async (what) => person.clickat(await person.at(what)),
-        line: async (list, number) => person.clickat(await person.at(line(list, number))),
+        ...pointing(person, "clickat"),
         bring: async (bar, row) => person.dragto(await person.at(named(bar)), await person.at(named(row), 0.1)),
     }),
     touch: (person) => ({
-        press: async (what) => person.tapat(await person.at(what)),
-        line: async (list, number) => person.tapat(await person.at(line(list, number))),
+        ...pointing(person, "tapat"),
         bring: async (bar, row) => {
             await person.tapat(await person.at(named(bar)));
             await person.tapat(await person.at(named(row), 0.1));
@@ -147,12 +150,10 @@ export const hands = {
         return {
             press,
             line: async (list, number) => {
-                await person.tabto(`${named(list)}, ${named(list)} *`);
-                await person.key("Home");
-                for (let down = 0; down < number; ++down) {
-                    await person.key("ArrowDown");
+                await person.tabto(named(list));
+                for (const key of ["Home", ...Array(number).fill("ArrowDown"), " "]) {
+                    await person.key(key);
                 }
-                return person.key(" ");
             },
             bring: async (bar, row) => {
                 await press(named(bar));

@@ -9,7 +9,7 @@ import { gzipSync } from "node:zlib";
 
 const types = {
     ".html": "text/html", ".js": "text/javascript", ".css": "text/css", ".wasm": "application/wasm",
-    ".webmanifest": "application/manifest+json", ".svg": "image/svg+xml", ".png": "image/png", ".webp": "image/webp",
+    ".svg": "image/svg+xml", ".png": "image/png", ".jpg": "image/jpeg",
 };
 
 function answer(folders, fetched, request, response) {
@@ -28,7 +28,7 @@ function answer(folders, fetched, request, response) {
         response.writeHead(304, head).end();
         return;
     }
-    if (!/png|webp/.test(type) && /gzip/.test(request.headers["accept-encoding"])) {
+    if (!/png|jpeg/.test(type) && /gzip/.test(request.headers["accept-encoding"])) {
         content = gzipSync(content);
         head["Content-Encoding"] = "gzip";
     }
