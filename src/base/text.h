@@ -69,8 +69,10 @@ inline std::string_view takevalue(std::string_view& line)
 {
     const auto begin = std::find_if_not(line.begin(), line.end(), separates);
     const auto end = std::find_if(begin, line.end(), separates);
-    line = {end, line.end()};
-    return {begin, end};
+    const std::string_view value =
+        line.substr(static_cast<std::size_t>(begin - line.begin()), static_cast<std::size_t>(end - begin));
+    line.remove_prefix(static_cast<std::size_t>(end - line.begin()));
+    return value;
 }
 
 // The part of `text` behind a UTF-8 byte order mark, or all of it.
