@@ -1,6 +1,6 @@
 import { nextevent, tell } from './queue.js';
 import { fetchpicture, forgetpicture } from './pictures.js';
-import { measure, pagesize, show, watchpage } from './windows.js';
+import { measure, pagesize, settlefocus, show, watchpage } from './windows.js';
 import { askmessage, viewtext } from './messages.js';
 import { keepfiles, readyfiles, showtools } from './files.js';
 import { keepondevice } from './offline.js';
@@ -27,6 +27,7 @@ const page = {
     tell,
     nextevent() {
         keepfiles();
+        settlefocus();
         if (!started) {
             started = true;
             keepondevice();
