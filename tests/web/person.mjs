@@ -21,7 +21,8 @@ export class Person {
         this.page = page;
     }
 
-    // Waits until the program waits; gives the screen in front, "message" for a message, "" when the program has ended.
+    // Waits until the program waits; gives the screen in front, "message" for a message, "viewer" for the viewer of
+    // texts, "" when the program has ended.
     settled() {
         return this.page.run(() => new Promise((done) => {
             const root = document.documentElement;
@@ -29,8 +30,8 @@ export class Person {
                 if (["waiting", "ended"].includes(root.dataset.state)) {
                     observer.disconnect();
                     const front = [...document.querySelectorAll("section.screen:not([inert])")].at(-1);
-                    const message = document.querySelector("dialog[data-message][open]");
-                    done(message ? "message" : front?.dataset.screen ?? "");
+                    const dialog = document.querySelector("dialog[open]");
+                    done(dialog ? Object.keys(dialog.dataset)[0] : front?.dataset.screen ?? "");
                 }
             };
             const observer = new MutationObserver(look);
@@ -143,9 +144,14 @@ export const hands = {
         },
     }),
     keyboard: (person) => {
+        // Tab comes to a group of options as a whole.
         const press = async (what) => {
-            await person.tabto(what);
-            return person.key(what.includes("choice(") ? "Enter" : " ");
+            const [choice, number] = what.match(/="choice\((\d)\)"/) ?? [];
+            await person.tabto(choice ? what.replace(choice, '^="choice("') : what);
+            for (let down = 0; down < number; ++down) {
+                await person.key("ArrowDown");
+            }
+            return person.key(choice ? "Enter" : " ");
         };
         return {
             press,

@@ -22,14 +22,14 @@ const texts = ["", " ", "0", "7", "-44", "32767", "-32769", "1e9", "ca. 12", "Ca
 
 // What can be seen of the window in front, and whether it is a question that was not seen before.
 function look() {
-    const front = document.querySelector("dialog[data-message][open]") ??
+    const front = document.querySelector("dialog[open]") ??
         [...document.querySelectorAll("section.screen:not([inert])")].at(-1);
     const name = front?.dataset.screen ?? "";
     const fresh = ["mchoice", "qsort", "qmatch"].includes(name) && !front.dataset.seen;
     if (fresh) {
         front.dataset.seen = "yes";
     }
-    const parts = "[data-control], [data-control] *, [role=option], [data-close], [data-answer], label";
+    const parts = "[data-control], [data-control] *, [role=option], button, label";
     const things = [...(front?.querySelectorAll(parts) ?? [])].map((thing) => {
         const { left, top, width, height } = thing.getBoundingClientRect();
         const ends = thing.closest("[data-control=cmdquit]") || (name === "main" && thing.closest("[data-close]"));

@@ -11,7 +11,7 @@ mkdirSync(folder, { recursive: true });
 // Controls in front that nobody could press, as they lie outside the page or under another; and a page that is wider
 // than what is seen of it.
 function outofreach() {
-    const front = document.querySelector("dialog[data-message][open]") ??
+    const front = document.querySelector("dialog[open]") ??
         [...document.querySelectorAll("section.screen:not([inert])")].at(-1);
     const wrong = document.documentElement.scrollWidth > innerWidth ? ["the page is wider than its window"] : [];
     for (const thing of front.querySelectorAll("button, input, textarea, [role=option], [data-control=Eimage]")) {
@@ -46,6 +46,8 @@ for (const [width, height, touch] of [[360, 640, true], [768, 1024, true], [1280
         const press = async (what) => look(await person.clickat(await person.at(what)));
         const close = async () => press("section.screen:not([inert]) [data-close]");
         await look(await person.settled());
+        await press(named("cmdCatalog"));
+        await press("dialog[open] button");
         for (const into of ["cmdsetup", "cmdEdit", "Command2"]) {
             await press(named(into));
         }
@@ -60,7 +62,7 @@ for (const [width, height, touch] of [[360, 640, true], [768, 1024, true], [1280
             front = await press(done[front] ?? named("Command1"));
         }
         assert.deepEqual([...seen].sort(), ["ImgDisp", "PEntry", "bdqedit", "curStats", "eEntry", "main", "mchoice",
-            "message", "qmatch", "qsort", "setup", "showscor"]);
+            "message", "qmatch", "qsort", "setup", "showscor", "viewer"]);
         assert.deepEqual(wrong, []);
     });
 }
