@@ -12,7 +12,6 @@
 #include "support/timelines.h"
 #include "timeline/usedmarks.h"
 #include "timeline/writer.h"
-#include "toolkit/operations.h"
 #include "toolkit/user.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +28,7 @@ namespace brindor::tests {
 
 using namespace toolkit;
 
-RandomPlayer::RandomPlayer(int questions, double slowest) : slowest_(slowest)
+RandomPlayer::RandomPlayer(int questions, double slowest) : clicks(click), slowest_(slowest)
 {
     const char* seed = std::getenv("BRINDOR_SEED");
     const char* wanted = std::getenv("BRINDOR_QUESTIONS");
@@ -46,18 +45,14 @@ std::int64_t RandomPlayer::drawn(std::int64_t below)
 
 bool RandomPlayer::answer()
 {
-    last_.push_back("answers");
+    last_ += ", answers";
     return drawn(2) == 0;
 }
 
 void RandomPlayer::require(bool condition, const std::string& what)
 {
     if (!condition) {
-        std::string text;
-        for (const std::string& step : last_) {
-            text += "\n  " + step;
-        }
-        ADD_FAILURE() << what << " after step " << steps_ << ", question " << asked_ << ":" << text;
+        ADD_FAILURE() << what << " after step " << steps_ << ", question " << asked_ << ", with" << last_;
     }
 }
 
@@ -69,14 +64,11 @@ void RandomPlayer::act(Screen& screen)
     }
     ++steps_;
     look(screen);
-    if (last_.size() > 12) {
-        last_.erase(last_.begin(), last_.begin() + 6);
-    }
+    last_.erase(0, last_.size() > 600 ? 300 : 0);
     before_ = std::clock();
-    const bool done = asked_ >= questions_;
-    const std::int64_t what = done ? 0 : drawn(40);
-    last_.push_back(screen.name + ' ' + std::to_string(what));
-    if (what == 0 && (done || screen.name != "main")) {
+    const std::int64_t what = done() ? 0 : drawn(40);
+    last_ += ", " + screen.name + ' ' + std::to_string(what);
+    if (what == 0 && (done() || screen.name != "main")) {
         userclose(screen);
     } else if (what == 1) {
         userescape(screen);
@@ -91,7 +83,7 @@ void RandomPlayer::act(Screen& screen)
     } else if (what == 6 && screen.name == "bdqedit") {
         viewonly = index16(drawn(2)); // both modes of the editors
     } else if (Control& control = *drawnof(screen.controls); control.name != "cmdquit") {
-        last_.back() += ' ' + control.name;
+        last_ += ' ' + control.name;
         use(control);
     }
 }
@@ -112,7 +104,7 @@ void RandomPlayer::use(Control& control)
         const auto& lines = list ? static_cast<List&>(control).lines : static_cast<Combo&>(control).lines;
         pick(control, index16(drawn(static_cast<std::int64_t>(lines.size()) + 2) - 1));
     } else if (other || !(type(control, drawnof(texts)) || press(control))) {
-        click(control);
+        clicks(control);
     }
 }
 

@@ -4,9 +4,9 @@
 
 #include <cstdint>
 #include <ctime>
+#include <functional>
 #include <random>
 #include <string>
-#include <vector>
 
 namespace brindor::tests {
 
@@ -19,6 +19,8 @@ public:
     // fresh one; it is printed.
     RandomPlayer(int questions, double slowest);
 
+    std::function<void(toolkit::Control&)> clicks; // how a control is clicked on; through toolkit/user.h unless given
+
     void act(toolkit::Screen& screen); // one step on the screen in front
     bool answer();                     // of a message: Yes or No
 
@@ -26,7 +28,7 @@ public:
     // directory.
     static void writetimelines();
 
-    int questionsasked() const { return asked_; }
+    bool done() const { return asked_ >= questions_; }
 
 private:
     std::int64_t drawn(std::int64_t below);
@@ -47,11 +49,11 @@ private:
     int asked_ = 0;
     std::int64_t steps_ = 0;
     std::clock_t before_ = 0; // CPU of the process when the last step began
-    std::vector<std::string> last_;
-    std::string seen_;       // the quiz or score screen looked at last
-    std::int64_t marks_ = 0; // the sum of all used marks then
-    std::string kept_;       // the Timeline as the load left it, while it is browsed
-    int worth_ = 0;          // points of the question in front
+    std::string last_;        // what was done last: the screen, the number of the deed, the control
+    std::string seen_;        // the quiz or score screen looked at last
+    std::int64_t marks_ = 0;  // the sum of all used marks then
+    std::string kept_;        // the Timeline as the load left it, while it is browsed
+    int worth_ = 0;           // points of the question in front
     int right_ = 0;
     int possible_ = 0;
     std::size_t logged_ = 0; // bytes of the log that were looked at

@@ -26,13 +26,15 @@ QWidget& windowof(const toolkit::Screen& screen)
     throw std::out_of_range("no window " + screen.name);
 }
 
+QWidget& widgetin(QWidget& window, const std::string& name)
+{
+    auto* widget = window.findChild<QWidget*>(QString::fromStdString(name));
+    return widget != nullptr ? *widget : throw std::out_of_range("no widget " + name);
+}
+
 QWidget& widgetof(const toolkit::Control& control)
 {
-    auto* widget = windowof(*control.screen).findChild<QWidget*>(QString::fromStdString(control.name));
-    if (widget == nullptr) {
-        throw std::out_of_range("no widget " + control.name);
-    }
-    return *widget;
+    return widgetin(windowof(*control.screen), control.name);
 }
 
 void showwhile(toolkit::Screen& screen, const std::function<void()>& act)

@@ -13,6 +13,7 @@ namespace brindor::tests {
 // The window of a screen and the widget of a control, found by their object names as any test tool finds them.
 // Throw where there is none.
 QWidget& windowof(const toolkit::Screen& screen);
+QWidget& widgetin(QWidget& window, const std::string& name);
 QWidget& widgetof(const toolkit::Control& control);
 
 // Shows the screen, does the act in its window as soon as that is seen, and closes it.

@@ -21,10 +21,4 @@ std::vector<Exhibit> gallery();
 // Shows the exhibit and looks at its window.
 void look(const Exhibit& exhibit, const std::function<void(QWidget& window)>& with);
 
-// A click in the middle of a control, as a mouse does it.
-void click(QWidget& window, const std::string& control);
-
-// Presses the mouse on one control and lets go over another.
-void drag(QWidget& window, const std::string& from, const std::string& to, bool letgo = true);
-
 } // namespace brindor::tests

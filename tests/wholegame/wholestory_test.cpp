@@ -144,7 +144,7 @@ TEST_F(RandomPlay, SomethingThatAUserDoesBringsTheGameOutOfOrder)
     host.pictures["TITLE.BMP"] = 0;
     MainScreen screen(folder.path().string());
     showmodal(screen);
-    EXPECT_GT(player.questionsasked(), 0);
+    EXPECT_TRUE(player.done());
 }
 
 } // namespace brindor::tests
