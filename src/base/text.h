@@ -58,14 +58,19 @@ double textvalue(std::string_view text);
 // A number in decimal with up to 15 significant digits and no trailing zeros: 12.50 becomes "12.5".
 std::string decimaltext(double number);
 
-// Takes the next value off a line: values stand between commas, blanks and tabs. Empty where none is left.
+// Values on a line stand between commas, blanks and tabs.
+inline bool separates(char c)
+{
+    return c == ',' || c == ' ' || c == '\t';
+}
+
+// Takes the next value off a line. Empty where none is left.
 inline std::string_view takevalue(std::string_view& line)
 {
-    constexpr std::string_view separators = ", \t";
-    line.remove_prefix(std::min(line.find_first_not_of(separators), line.size()));
-    const std::string_view value = line.substr(0, line.find_first_of(separators));
-    line.remove_prefix(value.size());
-    return value;
+    const auto begin = std::find_if_not(line.begin(), line.end(), separates);
+    const auto end = std::find_if(begin, line.end(), separates);
+    line = {end, line.end()};
+    return {begin, end};
 }
 
 // The part of `text` behind a UTF-8 byte order mark, or all of it.

@@ -172,8 +172,7 @@ CanvasPlan plancanvas(const std::vector<Box>& boxes, PixelSize seen, int bar, in
     const PixelPoint hidden{reach.left < 0 ? margin - reach.left : 0, reach.top < 0 ? margin - reach.top : 0};
     const PixelSize need{reach.right() + hidden.x, reach.bottom() + hidden.y};
 
-    const bool vertical =
-        need.height > seen.height || (need.height > seen.height - bar && need.width > seen.width);
+    const bool vertical = need.height > seen.height || (need.height > seen.height - bar && need.width > seen.width);
     const bool horizontal = need.width > seen.width - (vertical ? bar : 0);
     const PixelSize inside{seen.width - (vertical ? bar : 0), seen.height - (horizontal ? bar : 0)};
     CanvasPlan plan{inside, hidden};

@@ -58,14 +58,12 @@ protected:
         return text;
     }
 
-    // Opens the editor, tells the story and closes the editor from its title bar; "*" where the story has closed it.
     // A look sees "0 [AB] A|100|100|Line of A|14": the cursor, the list's first lines, the fields, the options on.
     std::string visit(const std::string& story)
     {
-        std::string transcript;
-        host.persons["PEntry"] = host.persons["eEntry"] = [&](Screen& screen) {
-            const auto& s = static_cast<RecordFields&>(screen);
-            transcript = act(host, screen, story, [&] {
+        return ProgramTest::visit(
+            ofpeople ? "PEntry" : "eEntry", ofpeople ? showpeople : showevents, story, [this](Screen& screen) {
+                const auto& s = static_cast<RecordFields&>(screen);
                 std::string text = std::to_string(cursor) + " [";
                 for (std::size_t i = 0; i < std::min<std::size_t>(s.combo1.lines.size(), 5); ++i) {
                     text += s.combo1.lines[i];
@@ -76,10 +74,6 @@ protected:
                 }
                 return text;
             });
-            transcript += userclose(screen) ? "" : "*";
-        };
-        ofpeople ? showpeople() : showevents();
-        return transcript;
     }
 
     void tell(const std::vector<std::int16_t>& dates, std::int16_t at, const std::string& steps,
@@ -189,7 +183,11 @@ TEST_P(Editors, DeletesTheRecordAndItsMarkAndLeavesItsFields)
     // The slot of a deleted last record lends a new one what is not on the screen.
     setrecords({100});
     item(0).desc3 = "Third of A";
-    visit("cmdDelete:Y; cmdNew; cmdOK:Y");
+    std::int64_t state = timelinestate;
+    for (const char* change : {"cmdDelete:Y", "cmdNew; cmdOK:Y", "desc=x; cmdOK:Y"}) {
+        visit(change);
+        EXPECT_GT(timelinestate, std::exchange(state, timelinestate)) << change;
+    }
     EXPECT_EQ(records() + item(0).desc3, "? 100:0Third of A");
 }
 

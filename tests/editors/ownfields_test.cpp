@@ -24,11 +24,6 @@ protected:
         events[1].imagename = " ";
         events[2].imagename = "missing.png";
         host.pictures = {{"a.png", 0}, {"b.png", 0}};
-        host.persons["PEntry"] = host.persons["eEntry"] = [this](Screen& screen) {
-            EXPECT_TRUE(screen.width <= 1024 * 15 && screen.height <= 700 * 15);
-            transcript = act(host, screen, story, [&screen] { return look(screen); });
-            userclose(screen);
-        };
     }
 
     // From the dates on, what is in the fields: "1000 1005 F1<F1F2F3> <O1O2> "; "-" for a hidden one.
@@ -54,23 +49,8 @@ protected:
         return text;
     }
 
-    std::string ofperson(const std::string& told)
-    {
-        story = told;
-        showpeople();
-        return transcript;
-    }
-
-    std::string ofevent(std::int16_t at, const std::string& told)
-    {
-        story = told;
-        curevent = at;
-        showevents();
-        return transcript;
-    }
-
-    std::string story;
-    std::string transcript;
+    std::string ofperson(const std::string& story) { return visit("PEntry", showpeople, story, look); }
+    std::string ofevent(const std::string& story) { return visit("eEntry", showevents, story, look); }
 };
 
 // What is typed into a Catalogue's list is ignored; what is picked is offered to be stored.
@@ -80,7 +60,7 @@ TEST_F(OwnFields, APersonsFactionOccupationAndDates)
     EXPECT_EQ(ofperson("?; cboFaction=typed; cmdNext; ?; cmdPrev; cboFaction#2; cboFaction=typed; cmdNext:Y; "
                        "cboOccupation#0; cboFaction=typed; cmdNew; ?; cmdOK:Y"),
               "1000 1005 F1<F1F2F3> <O1O2> \n1010 1015 F2<F1F2F3> O2<O1O2> \n" + offered + offered +
-                  "1010 1010 F2<F1F2F3> O1<O1O2> \nNew person: Store new data?\n");
+                  "1010 1010 F2<F1F2F3> O1<O1O2> \nNew person: Store new data?\n*");
     std::string stored;
     for (const PersonRec& person : people) {
         stored += person.name + ' ' + std::to_string(person.faction) + ' ' + std::to_string(person.occupation) + ", ";
@@ -96,7 +76,7 @@ TEST_F(OwnFields, AnEventsPictureRowFollowsTheRecordAndAFailedPictureIsTold)
     const std::string failed = "missing.png  53\n";
     const std::string first = "-500 -500 G1<G1G2G3> N1<N1N2N3> N1<N1N2N3> ";
     const std::string third = "-480 -480 G3<G1G2G3> N3<N1N2N3> N3<N1N2N3> ";
-    EXPECT_EQ(ofevent(0, "cmdNew; cmdDelete; ?; cmdNext; ?; cmdNext; ?; Combo1#0; ?; Combo1#2; ?; eImgName=b.png; ?"),
+    EXPECT_EQ(ofevent("cmdNew; cmdDelete; ?; cmdNext; ?; cmdNext; ?; Combo1#0; ?; Combo1#2; ?; eImgName=b.png; ?"),
               "!cmdNew\n!cmdDelete\n" + first +
                   "a.png 640 480 a.png- - \n-490 -490 G2<G1G2G3> N2<N1N2N3> N2<N1N2N3>   - - - - - - \n" + failed +
                   third + "  0 0 - - - \n" + // hidden by the event before
@@ -105,7 +85,7 @@ TEST_F(OwnFields, AnEventsPictureRowFollowsTheRecordAndAFailedPictureIsTold)
     EXPECT_EQ(events[2].imagename, "missing.png");
     events[0].imagename.clear();
     host.pictures["missing.png"] = -7;
-    EXPECT_EQ(ofevent(2, "Combo1#0; ?; Combo1#2"), "missing.png -7\n" + first + " - - - - - - \nmissing.png -7\n");
+    EXPECT_EQ(ofevent("Combo1#0; ?; Combo1#2"), "missing.png -7\n" + first + " - - - - - - \nmissing.png -7\n");
 }
 
 // The two sizes alone are not offered, the picture's name is; a new event offers the last picture; the blank that a
@@ -113,10 +93,10 @@ TEST_F(OwnFields, AnEventsPictureRowFollowsTheRecordAndAFailedPictureIsTold)
 TEST_F(OwnFields, AnEventsFieldsAreStoredAndOfferedToTheNext)
 {
     viewonly = 0;
-    EXPECT_EQ(ofevent(0, "Text2=12.5; Text3=99999; cboGroup#0; cboNation1#1; cboNation2#2; cmdNext:Y; cmdPrev; "
-                         "Text2=1; Text3=1; cmdNext; cmdPrev; eImgName=b.png; cmdNext:Y; cmdPrev; cmdNew; cmdOK:Y"),
-              offered + offered + "New event: Store new data?\n");
-    EXPECT_EQ(ofevent(2, "desc=x; cmdOK:Y"), "missing.png  53\n" + offered);
+    EXPECT_EQ(ofevent("Text2=12.5; Text3=99999; cboGroup#0; cboNation1#1; cboNation2#2; cmdNext:Y; cmdPrev; "
+                      "Text2=1; Text3=1; cmdNext; cmdPrev; eImgName=b.png; cmdNext:Y; cmdPrev; cmdNew; cmdOK:Y"),
+              offered + offered + "New event: Store new data?\n*");
+    EXPECT_EQ(ofevent("Combo1#2; desc=x; cmdOK:Y"), "missing.png  53\n" + offered + "*");
     std::string stored;
     for (const EventRec& event : events) {
         stored += event.imagename;
@@ -126,7 +106,7 @@ TEST_F(OwnFields, AnEventsFieldsAreStoredAndOfferedToTheNext)
         stored += ", ";
     }
     EXPECT_EQ(stored, "b.png 12 32767 1 2 3,   0 0 2 2 2,   0 0 3 3 3, b.png 12 32767 1 2 3,  0 0 0 0 0, ");
-    EXPECT_EQ(ofevent(0, "date1=500.5; date2; date2=400; desc; ?").substr(0, 8), "500 500 ");
+    EXPECT_EQ(ofevent("date1=500.5; date2; date2=400; desc; ?").substr(0, 8), "500 500 ");
 }
 
 TEST_F(OwnFields, TheViewerFillsItsWindowAndClosesUnseenWithoutAPicture)
@@ -143,7 +123,7 @@ TEST_F(OwnFields, TheViewerFillsItsWindowAndClosesUnseenWithoutAPicture)
         }
         EXPECT_TRUE(userescape(screen));
     };
-    EXPECT_EQ(ofevent(0, "cmdDelete; Eimage; eImgName=gone.png; Eimage; cmdNew"),
+    EXPECT_EQ(ofevent("cmdDelete; Eimage; eImgName=gone.png; Eimage; cmdNew"),
               "Delete: Delete this event?\ngone.png  53\n");
     EXPECT_EQ(sizes, "11941x8900 11941x8900 11941x8900 1x1 ");
     EXPECT_EQ(host.shown, (std::vector<std::string>{"eEntry", "ImgDisp"}));

@@ -1,8 +1,6 @@
 #include "frame/game.h"
 
-#include "base/files.h"
 #include "frame/mainscreen.h"
-#include "frame/services/settings.h"
 #include "quiz/mchoice.h"
 #include "support/quiztest.h"
 #include "timeline/writer.h"
@@ -25,7 +23,7 @@ protected:
         tests::setnumbered(30, 30);
         for (const char* name : {"mchoice", "qsort", "qmatch"}) {
             host.persons[name] = [this](Screen& screen) {
-                ++counts[qtype];
+                ++counts[screen.name + ' ' + std::to_string(qtype)];
                 userclose(screen);
             };
         }
@@ -39,52 +37,30 @@ protected:
         }
     }
 
-    // Plays the questions of mchoice with answers that are all right or all wrong.
-    void answer(bool right)
-    {
-        host.persons["mchoice"] = [right](Screen& s) {
-            auto& m = static_cast<Mchoice&>(s);
-            userpress(m.choice[right ? static_cast<std::size_t>(m.rightchoice) : 4]);
-        };
-    }
-
     // Tells a story on the main screen, and quits.
-    std::string run(const std::string& story, const std::function<std::string()>& look)
+    std::string run(const std::string& story, const std::function<std::string(Screen&)>& look)
     {
-        std::string transcript;
-        host.persons["main"] = [&](Screen& screen) {
-            transcript = said(host);
-            transcript += act(host, screen, story, look);
-            userclose(screen);
-        };
-        MainScreen screen(folder.path().string());
-        showmodal(screen);
+        MainScreen main(folder.path().string());
+        const std::string transcript = visit(
+            "main", [&main] { showmodal(main); }, story, look);
         return transcript + said(host);
     }
 
-    std::map<std::int16_t, int> counts; // questions of each type
+    std::map<std::string, int> counts; // questions of each type on its screen: "mchoice 2"
 };
-
-TEST_F(Game, EveryTypeHasItsScreen)
-{
-    std::string screens;
-    for (std::int16_t type = -1; type <= 14; ++type) {
-        host.shown.clear();
-        showquestion(type);
-        screens += std::to_string(qtype) + (host.shown.empty() ? " " : host.shown.front() + ' ');
-    }
-    EXPECT_EQ(screens, "-1 0 1mchoice 2mchoice 3qmatch 4qmatch 5qmatch 6qsort 7mchoice 8mchoice 9qmatch 10qmatch "
-                       "11qmatch 12mchoice 13qsort 14 ");
-}
 
 // The used marks go on from game to game, the score does not.
 TEST_F(Game, CountsItsQuestionsFromNoughtAndLogsThem)
 {
     enableonly({1, 2, 7, 8, 12});
-    answer(false);
+    bool right = false;
+    host.persons["mchoice"] = [&right](Screen& s) {
+        auto& m = static_cast<Mchoice&>(s);
+        userpress(m.choice[right ? static_cast<std::size_t>(m.rightchoice) : 4]);
+    };
     playgame();
     EXPECT_GE(std::accumulate(usedmarks.begin(), usedmarks.end(), 0), 5 * 12); // drawn with 14, and 2 for being wrong
-    answer(true);
+    right = true;
     nquestion = 10;
     logstatus = 2;
     playgame();
@@ -110,17 +86,21 @@ TEST_F(Game, DrawsTheTypesThatAreOnAndCanBeFilled)
     logstatus = 0;
     nquestion = 2800;
     playround(1);
-    EXPECT_EQ(counts.size(), 13U);
+    std::string seen;
     for (const auto& [type, count] : counts) {
-        EXPECT_NEAR(count, type == 1 ? 400 : 200, type == 1 ? 75 : 55) << type; // four standard deviations
+        seen += type + ", ";
+        const bool first = type == "mchoice 1";
+        EXPECT_NEAR(count, first ? 400 : 200, first ? 75 : 55) << type; // four standard deviations
     }
+    EXPECT_EQ(seen, "mchoice 1, mchoice 12, mchoice 2, mchoice 7, mchoice 8, qmatch 10, qmatch 11, qmatch 3, qmatch 4, "
+                    "qmatch 5, qmatch 9, qsort 13, qsort 6, ");
     counts.clear();
     enableonly({4, 13});
     for (PersonRec& person : people) {
         person.faction = person.occupation = 0;
     }
     playround(1);
-    EXPECT_EQ(counts, (std::map<std::int16_t, int>{{13, 2800}}));
+    EXPECT_EQ(counts, (std::map<std::string, int>{{"qsort 13", 2800}}));
 }
 
 TEST_F(Game, NothingToAskIsTold)
@@ -135,6 +115,7 @@ TEST_F(Game, NothingToAskIsTold)
     EXPECT_EQ(said(host), "The timeline Medieval.bd3 has too few different items for the kinds of question selected. "
                           "Select other kinds with the Setup button, or another period with View/Select on the same "
                           "screen.\n");
+    showquestion(14);
     EXPECT_TRUE(host.shown.empty());
 }
 
@@ -147,14 +128,16 @@ TEST_F(Game, StartsInOrderAndEndsWithTheSettings)
     curperiod = -1;
     viewonly = 0;
     std::filesystem::current_path("/");
+    faultplan = {};
     EXPECT_EQ(run("?; Command3; Command3; ?; cmdCatalog",
-                  [] {
+                  [](Screen& screen) {
+                      EXPECT_LE(faultplan.calls, 10); // of the disk: settings looked for, log emptied, a timeline read
                       std::string text;
-                      for (const Control* control : topscreen()->controls) {
+                      for (const Control* control : screen.controls) {
                           text += control->visible ? control->text + '|' : "-";
                       }
-                      return text + (topscreen()->backdrop ? "picture|" : "plain|") + std::to_string(peoplecount()) +
-                             '|' + std::to_string(viewonly) + '|' + log() +
+                      return text + (screen.backdrop ? "picture|" : "plain|") + std::to_string(peoplecount()) + '|' +
+                             std::to_string(viewonly) + '|' + log() +
                              (std::filesystem::exists("bdq.INI") ? "written" : "");
                   }),
               "Brindor History Trivia Game|Version 1.03|--Play|Setup|About|Catalog|Quit|picture|30|1|\n"
@@ -168,7 +151,7 @@ TEST_F(Game, GoesOnWithoutAnyFileOrFolder)
 {
     const std::string missing = "Ancient.bd3 cannot be opened: No such file or directory. Put the file into the "
                                 "program's folder, or choose another period. 30 Person 29 30 Event 29\n";
-    EXPECT_EQ(run("?; Command1", [] { return std::string(topscreen()->backdrop ? "picture" : "plain"); }),
+    EXPECT_EQ(run("?; Command1", [](Screen& screen) { return std::string(screen.backdrop ? "picture" : "plain"); }),
               missing + "plain\nYou scored 0 out of 0 (0%)\n");
     EXPECT_TRUE(std::filesystem::exists("bdq.INI"));
     std::filesystem::remove_all(folder.path());

@@ -16,7 +16,7 @@ using namespace toolkit;
 class Screens : public tests::GameTest {
 protected:
     // The caption, the letters of the buttons ("*" behind that of Return), and of each new tip and of what assistive
-    // tools are told the first word.
+    // tools are told the first word; "=" for a label that names another control.
     static std::string describe(const Screen& screen)
     {
         std::string text = screen.name + " \"" + screen.caption + "\" " + (screen.escapecloses ? "esc " : "");
@@ -28,6 +28,7 @@ protected:
             }
             text += (control->tooltip == tip ? "" : '{' + tests::split(control->tooltip + ' ', " ").front() + '}') +
                     (control->says.empty() ? "" : '<' + tests::split(control->says, " ").front() + '>');
+            text += control->kind == Kind::label && static_cast<const Label*>(control)->names != nullptr ? "=" : "";
             tip = control->tooltip;
         }
         return text + '\n';
@@ -63,8 +64,10 @@ TEST_F(Screens, TellTheirLettersAndTipsAndNoControlLiesOnAnother)
     host.pictures["a.png"] = 0;
     for (const char* name : {"main", "setup", "bdqedit", "curStats", "PEntry", "eEntry", "ImgDisp", "mchoice", "qsort",
                              "qmatch", "showscor"}) {
-        host.persons[name] = [&text](Screen& screen) {
+        host.persons[name] = [&](Screen& screen) {
             text += describe(screen);
+            EXPECT_TRUE(screen.width <= 1024 * 15 && screen.height <= 700 * 15) << screen.name;
+            EXPECT_EQ(screen.left * 2 + screen.width, host.display.width) << screen.name;
             expectapart(screen);
             if (screen.name == "qsort") {
                 userclick(tests::find<Button>(screen, "Command1"));
@@ -88,22 +91,20 @@ TEST_F(Screens, TellTheirLettersAndTipsAndNoControlLiesOnAnother)
     showchooser([] {});
     MainScreen screen(folder.path().string());
     showmodal(screen);
-    EXPECT_EQ(
-        text,
-        "mchoice \"Quorvel Mind Tourney\" hs\n"
-        "qsort \"Quorvel Mind Tourney\" <Items>HD\n"
-        "showscor \"Quorvel Mind Tourney Scores\" esc <Result>o*{Click}{}\n"
-        "qmatch \"Match 'em\" {Click}{Drag}{}HS{Click}D\n"
-        "PEntry \"People Entry\" esc <Name><Description><Date><Type><Date><Type><Faction><Occupation>PNwDO*\n"
-        "eEntry \"Events Entry\" esc "
-        "<Name><Description><Date><Type><Date><Type><Group><Nation><Nation><Picture><Picture><Picture>{Click}<Picture>"
-        "P{}NwDO*\n"
-        "ImgDisp \"\" esc <Picture>\n"
-        "curStats \"Current Timeline Statistics\" esc O*\n"
-        "setup \"Brindor History Trivia Game Setup\" esc "
-        "<Number><Number>{Colored}<Kinds>{}{No}{All}{Only}{}<Minimum><Minimum><Maximum><Maximum>V{Change}O*{Click}\n"
-        "bdqedit \" Choose \" esc PESO*\n"
-        "main \"Brindor History Trivia Game\" P*{Play}S{Conditions}A{}C{View}Q{}\n");
+    EXPECT_EQ(text, "mchoice \"Quorvel Mind Tourney\" hs\n"
+                    "qsort \"Quorvel Mind Tourney\" =<Items>HD\n"
+                    "showscor \"Quorvel Mind Tourney Scores\" esc =<Result>o*{Click}{}\n"
+                    "qmatch \"Match 'em\" {Click}{Drag}{}HS{Click}D\n"
+                    "PEntry \"People Entry\" esc =<Name>=<Description>=<Date><Type>=<Date><Type>"
+                    "=<Faction>=<Occupation>PNwDO*\n"
+                    "eEntry \"Events Entry\" esc =<Name>=<Description>=<Date><Type>=<Date><Type>"
+                    "=<Group>=<Nation>=<Nation>=<Picture>=<Picture><Picture>{Click}<Picture>P{}NwDO*\n"
+                    "ImgDisp \"\" esc <Picture>\n"
+                    "curStats \"Current Timeline Statistics\" esc O*\n"
+                    "setup \"Brindor History Trivia Game Setup\" esc =<Number><Number>={Colored}<Kinds>{}"
+                    "{No}{All}{Only}{}=<Minimum><Minimum>=<Maximum><Maximum>V{Change}O*{Click}\n"
+                    "bdqedit \" Choose \" esc PESO*\n"
+                    "main \"Brindor History Trivia Game\" P*{Play}S{Conditions}A{}C{View}Q{}\n");
 }
 
 } // namespace brindor

@@ -1,6 +1,5 @@
 #include "questions/selection.h"
 
-#include "base/random.h"
 #include "questions/question.h"
 #include "questions/texts.h"
 #include "support/programtest.h"

@@ -84,7 +84,12 @@ TEST_F(MchoiceTest, KeepsItsSizeAndFillsItsWindow)
                 }
             }
         }
-        EXPECT_EQ(placements[1].width + placements[10].width, 24000);
+        placements[0] = {0, 77, 5001, 6001};
+        placeform(s, mchoicerow, restoreplacement); // stores nothing on its way
+        placeform(s, -1, storeplacement);
+        placeform(s, 11, restoreplacement);
+        EXPECT_EQ(s.width * 10 + s.height + s.windowstate, 65011);
+        EXPECT_EQ(placements[0].backcolor + placements[1].width + placements[10].width, 24077);
         userclose(s);
     });
 }

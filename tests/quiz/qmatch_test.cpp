@@ -1,8 +1,5 @@
 #include "quiz/qmatch.h"
 
-#include "base/random.h"
-#include "frame/services/log.h"
-#include "frame/services/score.h"
 #include "questions/texts.h"
 #include "support/quiztest.h"
 

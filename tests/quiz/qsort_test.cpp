@@ -1,7 +1,5 @@
 #include "quiz/qsort.h"
 
-#include "frame/services/log.h"
-#include "frame/services/score.h"
 #include "support/quiztest.h"
 
 #include <numeric>

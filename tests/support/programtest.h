@@ -28,6 +28,21 @@ protected:
     }
     ~ProgramTest() override { faultplan = {}; }
 
+    // Opens a screen of this name, tells a story on it and closes it from its title bar. Gives what was said before and
+    // the transcript, with "*" at its end where the story has closed the screen.
+    std::string visit(const std::string& name, const std::function<void()>& open, const std::string& story,
+                      const std::function<std::string(toolkit::Screen&)>& look = {})
+    {
+        std::string transcript;
+        host.persons[name] = [&](toolkit::Screen& screen) {
+            transcript = said(host);
+            transcript += act(host, screen, story, [&] { return look(screen); });
+            transcript += toolkit::userclose(screen) ? "" : "*";
+        };
+        open();
+        return transcript;
+    }
+
     ScratchFolder folder;
     MemoryHost host;
 };

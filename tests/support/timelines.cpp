@@ -27,6 +27,7 @@ void settimeline(std::vector<PersonRec> somepeople, std::vector<EventRec> someev
     events.resize(events.size() + 2);
     curperson = 0;
     curevent = 0;
+    ++timelinestate;
     clearmarks();
 }
 

@@ -4,6 +4,7 @@
 #include "timeline/usedmarks.h"
 #include "timeline/writer.h"
 
+#include <numeric>
 #include <string>
 
 namespace brindor {
@@ -58,6 +59,7 @@ TEST_F(Reader, ReadsEveryFieldInEveryForm)
              replaced("1815, 0", "1815 0"),
              replaced("1815, 0", "1815,0"),
              replaced("1815, 0", "1815\n0"),
+             replaced("1815, 0", "\t000001815 ,\t-0 "),
              replaced("1815, 0", "+1815 , 0 , 99 and more"), // the rest of the line is dropped
              replaced("==== PEOPLE", "12 people"),
              smallfile + "anything behind it\n",
@@ -97,6 +99,12 @@ TEST_F(Reader, FailureTextsNameLineFaultAndRemedy)
          "6: \"1815.5\" is not a whole number. Correct the first date and its kind" + choose + " 2  1 "},
         {replaced("1852, 0", "1852, 32768"),
          "7: \"32768\" is outside -32768 to 32767. Correct the second date and its kind" + choose + " 2  1 "},
+        {replaced("1815, 0", "1815-5, 0"),
+         "6: \"1815-5\" is not a whole number. Correct the first date and its kind" + choose + " 2  1 "},
+        {replaced("1852, 0", "-4294967297, 0"),
+         "7: \"-4294967297\" is outside -32768 to 32767. Correct the second date and its kind" + choose + " 2  1 "},
+        {replaced("640, 480", "640, -"),
+         "34: \"-\" is not a whole number. Correct the picture's two sizes" + choose + last},
         {replaced("2\n-- 1\nNormandy", "-2\n-- 1\nNormandy"),
          "51: -2 is no count from 0 to 32767. Correct the count of the nations" + choose + last},
         {before("England"),
@@ -122,6 +130,12 @@ TEST_F(Reader, AFileThatEndsEarlyKeepsWhatWasReadAndAMissingOneChangesNothingBut
     read(replaced("912, 1", "912, x")); // half a line is not read
     EXPECT_EQ(std::to_string(peoplecount()) + people[1].name + std::to_string(people[1].date1 + people[1].live),
               "2Otto0");
+    read(before("Otto")); // nothing of an earlier load is in a record that is not reached
+    const PersonRec& rest = people[1];
+    const int numbers[] = {rest.date1,      rest.date2,      rest.datetype1,  rest.datetype2, rest.faction,
+                           rest.occupation, rest.imagesize1, rest.imagesize2, rest.live,      events[0].live};
+    EXPECT_EQ(rest.name + rest.desc1 + rest.desc2 + rest.desc3 + rest.imagename + events[0].name, "");
+    EXPECT_EQ(std::count(std::begin(numbers), std::end(numbers), 0), std::ssize(numbers));
     read(smallfile);
     usedmarks[0] = 3;
     curperiod = 2;

@@ -83,8 +83,7 @@ TEST_F(FairnessTest, CountsQuestionsWithTwoAnswersByTheRules)
 
 TEST_F(FairnessTest, TheTableHasAColumnForEachTimeline)
 {
-    writegood();
-    fs::rename("in", "rome");
+    writegood("", "", "rome");
     Findings findings;
     const std::string table = fairnesstable({"rome/", "nowhere"}, 100, 1, findings);
     EXPECT_TRUE(

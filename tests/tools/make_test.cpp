@@ -9,24 +9,6 @@ namespace brindor::authoring {
 using namespace tests;
 using Make = ProgramTest;
 
-TEST_F(Make, WritesWhatTheRowsSay)
-{
-    writegood("\"Comma, the\",1300,reign,1310,ca.,First.,Second.,Éire,Poet\n",
-              "Small war,-12,ca.,,,A,B,War,Rome,,Here,-1.5,2,\nWar,1,,,,D,,War,Rome,,,,,pics/own.bmp\n");
-    fs::create_directory("in/pics");
-    writefile("in/pics/own.bmp", bmpfile(40, 30));
-    EXPECT_EQ(errors(maketimeline("in", "out/Classic.bd3", false)),
-              "Classic.bd3: 11 people, 12 events; 11 maps are not drawn yet, which mapmaker maps does");
-    EXPECT_EQ(contentof("out/classic/pics/own.bmp"), bmpfile(40, 30));
-    const std::string text = contentof("out/Classic.bd3");
-    for (const char* block :
-         {"** 11\nComma, the\n1300, 2\n1310, 1\nFirst.\nSecond.\n\n4, 1\n\n0, 0\n",
-          "++ 1\nSmall war\n-12, 1\n-12, 1\nA\nB\n\n4, 5, 5\nclassic/maps/small-war.png\n640, 480\n",
-          "\nclassic/pics/own.bmp\n40, 30\n", "-- 3\nEgypt\n2\n-- 4\nÉire\n1\n"}) {
-        EXPECT_NE(text.find(block), std::string::npos) << block;
-    }
-}
-
 TEST_F(Make, GivesEachMapANameOfItsOwnAndAtOnce)
 {
     std::vector<EventForm> forms(5);

@@ -19,7 +19,7 @@ protected:
                 "cd \"$(dirname \"$0\")\" && find . -type f | sort >\"" + folder.path().string() + "/seen\"");
         writefile("game/Modern.bd3", "0 the shipped one");
         writefile("game/bdq.INI", "settings");
-        writefolder("My voyages", goodpeople(), goodevents() + "Own,1,,,,D,,War,Rome,,,,,own.bmp\n");
+        writegood("", "Own,1,,,,D,,War,Rome,,,,,own.bmp\n", "My voyages");
         writefile("My voyages/own.bmp", bmpfile(40, 30));
     }
 
@@ -59,6 +59,7 @@ TEST_F(Packs, WhatOnePacksAnotherAdds)
 {
     EXPECT_EQ(errors(packtimeline("My voyages", "v.zip", false, places)),
               "v.zip: 10 people, 11 events, 2 pictures; to be added to a game by timelinemaker add v.zip");
+    EXPECT_EQ(periodlist("or"), "Ancient, Classic, Medieval or Modern");
     packtimeline("My voyages", "again.zip", false, places);
     EXPECT_EQ(contentof("again.zip"), contentof("v.zip"));
     EXPECT_EQ(errors(addpack("v.zip", "", false, places)),
@@ -88,9 +89,6 @@ TEST_F(Packs, AStrangersPackIsTakenForHostile)
     };
     const std::vector<Case> cases = {
         {"../.bashrc", "x", " is not added: \"../.bashrc\" in it is no picture's name; " + dots},
-        {"/etc/x.png", "x",
-         " is not added: \"/etc/x.png\" in it is no picture's name; it must lie in the folder or below it, as "
-         "ships/whydah.png\n"},
         {"brindor", "x",
          " is not added: \"brindor\" in it is no picture's name; it must end in png, jpg, jpeg, bmp or gif\n"},
         {"TITLE.BMP", "BM", " is not added: \"TITLE.BMP\" in it does not lie in the timeline's folder, my-voyages/\n"},
@@ -111,7 +109,6 @@ TEST_F(Packs, AStrangersPackIsTakenForHostile)
     writefile("evil.zip", "no zip");
     EXPECT_NE(errors(addpack("evil.zip", "", true, places)).find("cannot be unpacked"), std::string::npos);
     const std::string bomb = zipped({{"a.png", std::string(1 << 20, ' ')}}).value.value_or("");
-    EXPECT_LT(bomb.size(), 10000U);
     EXPECT_EQ(unzipped(bomb, 100000).reason, "it holds too much");
 }
 

@@ -8,23 +8,18 @@
 #include <string>
 #include <vector>
 
+// SAMPLES, from the build, is the folder of the samples: spreadsheets whose rows say what is wrong with them, beside
+// what the tools report on them.
 namespace brindor::tests {
 
 namespace fs = std::filesystem;
 
-// The header rows, with their line ends.
-std::string peopleheader();
-std::string eventsheader();
+// Copies a sample into the current folder. Gives its name.
+std::string sample(const std::string& name);
 
-// Ten people and ten events with which every kind of question can be asked and nothing is to be said against.
-std::string goodpeople();
-std::string goodevents();
-
-// Writes a folder with the two files; the rows follow the headers.
-void writefolder(const std::string& folder, const std::string& peoplerows, const std::string& eventrows);
-
-// The folder "in" with the good ones and the rows behind them, from line 12 on.
-void writegood(const std::string& peoplerows = "", const std::string& eventrows = "");
+// Writes the sample "good", with which every kind of question can be asked and nothing is to be said against, and the
+// rows behind its own ten people and ten events, from line 12 on.
+void writegood(const std::string& peoplerows = "", const std::string& eventrows = "", const std::string& into = "in");
 
 // All findings as lines, and the errors among them. A report ends with what it said.
 std::string report(const authoring::Findings& findings);

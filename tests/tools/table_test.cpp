@@ -113,37 +113,6 @@ TEST_F(Spreadsheet, SavedInAnyCommonWayIsTheSameTimeline)
               wanted);
 }
 
-TEST_F(Spreadsheet, TellsWhatIsWrongWithTheFile)
-{
-    const std::string save = " save it as \"CSV UTF-8\"";
-    const std::vector<std::pair<std::string, std::string>> cases = {
-        {"", ":1: error: the file is empty; its first row must hold the headings name, date1, kind1, date2, kind2, "
-             "desc1, desc2, faction, occupation, woman, fame, source"},
-        {"name,date1,desc1,occupation\n",
-         ":1: error: the column faction is missing; found: name, date1, desc1, occupation"},
-        {"Name;Year\n", ":1: error: the columns date1, desc1, faction, occupation are missing; found: name, year"},
-        {"My timeline,,,\n\nname,date1,desc1,faction,occupation\n",
-         ":1: error: this is no row of headings; they stand in line 3, so delete the rows above that"},
-        {"name,date1,name,desc1,faction,occupation\n",
-         ":1: error: the column name stands twice; give one of them another name"},
-        {"colour," + peopleheader(), ":1: note: the column colour is not known and left unread"},
-        {"Mal\xF6,1\nMal\xF6,2\n",
-         ": error: the file is not in UTF-8, so letters with accents would be lost; in Excel" + save +
-             ", in LibreOffice as \"Text CSV\" with the character set \"Unicode (UTF-8)\""},
-        {"PK\x03\x04 and so on",
-         ": error: this is a spreadsheet's own file; open it in the spreadsheet and" + save + " or \"Text CSV\""},
-    };
-    for (const auto& [text, said] : cases) {
-        writefile("people.csv", text);
-        EXPECT_TRUE(report(checkfolder(".")).starts_with("./people.csv" + said + '\n')) << report(checkfolder("."));
-    }
-    fs::rename("people.csv", "people.xlsx");
-    EXPECT_TRUE(report(checkfolder("."))
-                    .starts_with("./people.csv: error: cannot be read: No such file or directory; open ./people.xlsx "
-                                 "in the spreadsheet and" +
-                                 save + " or \"Text CSV\"\n"));
-}
-
 TEST(Values, YearsComeInManyForms)
 {
     const auto year = [](const std::string& field) { return valueof(yearof(field)); };

@@ -4,6 +4,7 @@
 #include "toolkit/qt/windowicon.h"
 
 #include <QApplication>
+#include <QPixmapCache>
 #include <QPlainTextEdit>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -114,6 +115,9 @@ public:
 
 void dressapplication()
 {
+    // The style keeps pictures of its scroll bars there by palette, and each window has palettes of its own.
+    constexpr int kibibytes = 256;
+    QPixmapCache::setCacheLimit(kibibytes);
     QApplication::setStyle(new PlainStyle);
     const QPalette palette = plainpalette();
     QApplication::setPalette(palette);

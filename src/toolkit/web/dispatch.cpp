@@ -4,65 +4,39 @@
 #include "base/text.h"
 #include "toolkit/user.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace brindor::toolkit::web {
 
 namespace {
 
-bool onbutton(const Event& event, Button& button)
+template <class Wanted>
+Wanted& as(Control& control)
 {
-    return event.act == "press" ? userpress(button) : event.act == "click" && userclick(button);
+    return static_cast<Wanted&>(control);
 }
 
-bool onoption(const Event& event, OptionButton& option)
-{
-    return event.act == "press" ? userpress(option) : event.act == "click" && userclick(option);
-}
-
-bool onlabel(const Event& event, Label& label)
-{
-    return event.act == "drop" ? userdrop(label) : event.act == "click" && userclick(label);
-}
-
-bool ontextbox(const Event& event, TextBox& box)
-{
-    return event.act == "step" ? userstep(box, event.number) : event.act == "type" && usertype(box, event.text);
-}
-
-bool oncombo(const Event& event, Combo& combo)
-{
-    return event.act == "pick" ? userpick(combo, index16(event.number))
-                               : event.act == "type" && usertype(combo, event.text);
-}
-
-bool oncontrol(const Event& event, Control& control)
-{
-    if (event.act == "focus") {
-        return userfocus(control);
-    }
-    switch (control.kind) {
-    case Kind::label:
-        return onlabel(event, static_cast<Label&>(control));
-    case Kind::button:
-        return onbutton(event, static_cast<Button&>(control));
-    case Kind::optionbutton:
-        return onoption(event, static_cast<OptionButton&>(control));
-    case Kind::textbox:
-        return ontextbox(event, static_cast<TextBox&>(control));
-    case Kind::list:
-        return event.act == "pick" && userpick(static_cast<List&>(control), index16(event.number));
-    case Kind::combo:
-        return oncombo(event, static_cast<Combo&>(control));
-    case Kind::picture:
-        return event.act == "click" && userclick(static_cast<Picture&>(control));
-    case Kind::spin:
-        return event.act == "step" && userstep(static_cast<Spin&>(control), event.number);
-    case Kind::frame:
-        break;
-    }
-    return false;
-}
+const struct {
+    Kind kind;
+    std::string_view act;
+    bool (*tell)(Control& control, const Event& event);
+} acts[] = {
+    {Kind::button, "press", [](Control& c, const Event&) { return userpress(as<Button>(c)); }},
+    {Kind::button, "click", [](Control& c, const Event&) { return userclick(as<Button>(c)); }},
+    {Kind::optionbutton, "press", [](Control& c, const Event&) { return userpress(as<OptionButton>(c)); }},
+    {Kind::optionbutton, "click", [](Control& c, const Event&) { return userclick(as<OptionButton>(c)); }},
+    {Kind::label, "click", [](Control& c, const Event&) { return userclick(as<Label>(c)); }},
+    {Kind::label, "drop", [](Control& c, const Event&) { return userdrop(as<Label>(c)); }},
+    {Kind::picture, "click", [](Control& c, const Event&) { return userclick(as<Picture>(c)); }},
+    {Kind::list, "pick", [](Control& c, const Event& e) { return userpick(as<List>(c), index16(e.number)); }},
+    {Kind::combo, "pick", [](Control& c, const Event& e) { return userpick(as<Combo>(c), index16(e.number)); }},
+    {Kind::combo, "type", [](Control& c, const Event& e) { return usertype(as<Combo>(c), e.text); }},
+    {Kind::textbox, "type", [](Control& c, const Event& e) { return usertype(as<TextBox>(c), e.text); }},
+    {Kind::textbox, "step", [](Control& c, const Event& e) { return userstep(as<TextBox>(c), e.number); }},
+    {Kind::spin, "step", [](Control& c, const Event& e) { return userstep(as<Spin>(c), e.number); }},
+};
 
 // The text has the window's width and height in pixels, the number is its state.
 bool resized(const Event& event, Screen& screen)
@@ -79,11 +53,14 @@ bool resized(const Event& event, Screen& screen)
 
 bool act(const Event& event, Screen& screen, Control* control)
 {
-    if (event.act == "return") {
-        // The page may show a first focus that the program has not been told of.
-        if (control != nullptr) {
-            userfocus(*control);
+    if (control != nullptr && (event.act == "focus" || event.act == "return")) {
+        // Return also tells where the focus is: the first one of a window is the page's own and was not told.
+        const bool taken = userfocus(*control);
+        if (event.act == "focus") {
+            return taken;
         }
+    }
+    if (event.act == "return") {
         return userreturn(screen);
     }
     if (event.act == "escape") {
@@ -98,7 +75,10 @@ bool act(const Event& event, Screen& screen, Control* control)
     if (event.act == "resize") {
         return resized(event, screen);
     }
-    return control != nullptr && oncontrol(event, *control);
+    const auto row = std::find_if(std::begin(acts), std::end(acts), [&](const auto& one) {
+        return control != nullptr && one.kind == control->kind && one.act == event.act;
+    });
+    return row != std::end(acts) && row->tell(*control, event);
 }
 
 } // namespace brindor::toolkit::web

@@ -13,7 +13,7 @@
 namespace brindor::toolkit {
 
 using web::Event;
-using web::Json;
+using web::object;
 using web::twipsinpixel;
 
 namespace {
@@ -82,7 +82,7 @@ void WebHost::show(Screen& screen)
 {
     if (Window* window = windowof(screen)) {
         flush(*window);
-        web::post(Json().add("window", window->serial).add("show", true).text());
+        web::post(object("window", window->serial, "show", true));
     }
 }
 
@@ -96,7 +96,7 @@ void WebHost::wait(Screen& screen)
 void WebHost::drop(Screen& screen)
 {
     if (const Window* window = windowof(screen)) {
-        web::post(Json().add("window", window->serial).add("drop", true).text());
+        web::post(object("window", window->serial, "drop", true));
         std::erase_if(windows_, [&screen](const Window& one) { return one.screen == &screen; });
     }
 }
@@ -106,10 +106,6 @@ void WebHost::update(Control& control)
 {
     if (Window* window = windowof(*control.screen)) {
         window->changed[static_cast<std::size_t>(web::indexof(*control.screen, &control))] = true;
-        // How a bar and its row are shown depends on both.
-        if (isbar(control)) {
-            window->screenchanged = true;
-        }
     }
 }
 
@@ -151,21 +147,21 @@ void WebHost::flush(Window& window)
         any = true;
         const Control& control = *screen.controls[i];
         const int index = static_cast<int>(i);
-        Json json = web::controltext(window.serial, index, control);
+        std::string json = web::controltext(window.serial, control);
         if (const std::vector<std::string>* lines = web::linesof(control)) {
             const auto known = window.lines.find(index);
             if (known == window.lines.end() || known->second != *lines) {
                 window.lines[index] = *lines;
-                json.add("lines", *lines);
+                json = web::joined(std::move(json), object("lines", *lines));
             }
         }
-        web::post(json.text());
+        web::post(json);
     }
     if (any) {
         layout(window);
     }
     if (const int focused = std::exchange(window.focus, -1); focused >= 0) {
-        web::post(Json().add("window", window.serial).add("focus", focused).text());
+        web::post(object("window", window.serial, "focus", focused));
     }
 }
 
@@ -183,11 +179,8 @@ void WebHost::layout(const Window& window)
         screen.scrolls ? plancanvas(boxes, seen, scrollbar, endmargin, centred) : CanvasPlan{seen, {}};
     std::vector<int> places;
     collectplaces(screen, boxes, plan.origin, places);
-    web::post(Json()
-                  .add("window", window.serial)
-                  .add("places", places)
-                  .add("canvas", std::vector<int>{plan.canvas.width, plan.canvas.height})
-                  .text());
+    web::post(object("window", window.serial, "places", places, "canvas",
+                     std::vector<int>{plan.canvas.width, plan.canvas.height}));
 }
 
 Event WebHost::nextevent()
@@ -216,8 +209,13 @@ void WebHost::dispatch(const Event& event)
     const bool exists = event.control >= 0 && static_cast<std::size_t>(event.control) < screen.controls.size();
     Control* control = exists ? screen.controls[static_cast<std::size_t>(event.control)] : nullptr;
     const bool taken = web::act(event, screen, control);
-    // What was refused stands in the page as the person left it.
-    if (window = windowof(event.window); window != nullptr && !taken && exists) {
+    window = windowof(event.window);
+    if (window == nullptr) {
+        return;
+    }
+    if (event.act == "resize") {
+        window->screenchanged = true;
+    } else if (!taken && exists) { // what was refused stands in the page as the person left it
         window->changed[static_cast<std::size_t>(event.control)] = true;
     }
 }
@@ -226,13 +224,8 @@ bool WebHost::message(const Message& message)
 {
     flush();
     const int serial = ++lastserial_;
-    web::post(Json()
-                  .add("message", serial)
-                  .add("text", message.text)
-                  .add("title", message.title)
-                  .add("question", message.question)
-                  .add("large", message.large)
-                  .text());
+    web::post(object("message", serial, "text", message.text, "title", message.title, "question", message.question,
+                     "large", message.large));
     for (;;) {
         const Event event = nextevent();
         if (event.act == "answer" && event.window == serial) {
@@ -274,7 +267,7 @@ LoadedPicture WebHost::loadpicture(const std::string& file)
 void WebHost::startviewer(const std::string& file)
 {
     if (const Result<std::string> text = readwhole(file, longestviewed)) {
-        web::post(Json().add("view", *text.value).add("title", file).text());
+        web::post(object("view", *text.value, "title", file));
     }
 }
 

@@ -12,34 +12,19 @@ namespace brindor::toolkit::web {
 
 namespace {
 
-std::string quoted(std::string_view bytes)
-{
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string result = "\"";
-    for (const char c : toutf8(bytes)) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x20) {
-            result += "\\u00";
-            result += digits[byte >> 4];
-            result += digits[byte & 15];
-        } else {
-            if (c == '"' || c == '\\') {
-                result += '\\';
-            }
-            result += c;
-        }
-    }
-    return result + '"';
-}
-
-template <class Values, class Text>
-std::string array(const Values& values, const Text& textof)
+template <class Value>
+std::string array(const std::vector<Value>& values)
 {
     std::string result = "[";
-    for (const auto& value : values) {
-        result += (result.size() > 1 ? "," : "") + textof(value);
+    for (const Value& value : values) {
+        result += (result.size() > 1 ? "," : "") + jsontext(value);
     }
     return result + ']';
+}
+
+int pixels(double twips)
+{
+    return static_cast<int>(std::lround(twips / twipsinpixel));
 }
 
 // A point is 1/72 of an inch and a pixel 1/96.
@@ -53,126 +38,125 @@ std::string letter(char accesskey)
     return accesskey == 0 ? std::string() : std::string(1, accesskey);
 }
 
-const char* kindname(const Control& control)
+// The page's name for a picture, 0 for none.
+int idof(const PictureRef& picture)
 {
-    constexpr const char* names[] = {"label", "button", "option", "textbox", "list",
-                                     "combo", "frame",  "picture", "spin"};
-    return isbar(control) ? "bar" : names[static_cast<std::size_t>(control.kind)];
+    return picture == nullptr ? 0 : *static_cast<const int*>(picture->pixels.get());
 }
 
-// What the kind adds.
-void addkind(Json& json, const Control& control)
+// What the kind adds; its name goes by the fields.
+std::string kindtext(const Label& label)
 {
-    const Screen& screen = *control.screen;
+    constexpr const char* aligns[] = {"left", "center", "right"};
+    return object("kind", "label", "align", aligns[static_cast<std::size_t>(label.align)], "names",
+                  indexof(*label.screen, label.names), "outlined", label.outlined, "drops", isdroptarget(label),
+                  "textwidth", pixels(label.textwidth));
+}
+
+std::string kindtext(const Button& button)
+{
+    const Screen& screen = *button.screen;
+    return object("kind", button.bar ? "bar" : "button", "key", letter(button.accesskey), "default",
+                  screen.defaultbutton == &button, "held", screen.dragged == &button, "row",
+                  button.bar ? indexof(screen, rowof(button)) : -1);
+}
+
+std::string kindtext(const OptionButton& option)
+{
+    return object("kind", "option", "key", letter(option.accesskey), "checked", option.selected, "presses",
+                  option.press != nullptr);
+}
+
+std::string kindtext(const List& list)
+{
+    return object("kind", "list", "marked", std::vector<int>(list.selected.begin(), list.selected.end()), "columns",
+                  list.columns, "multiselect", list.multiselect, "pushesup", list.pushesup);
+}
+
+std::string kindtext(const Control& control)
+{
     switch (control.kind) {
-    case Kind::label: {
-        const auto& label = static_cast<const Label&>(control);
-        constexpr const char* aligns[] = {"left", "center", "right"};
-        json.add("align", aligns[static_cast<std::size_t>(label.align)])
-            .add("names", indexof(screen, label.names))
-            .add("outlined", label.outlined)
-            .add("drops", isdroptarget(control))
-            .add("textwidth", static_cast<int>(std::lround(label.textwidth / twipsinpixel)));
-        break;
-    }
-    case Kind::button: {
-        const auto& button = static_cast<const Button&>(control);
-        json.add("key", letter(button.accesskey)).add("default", screen.defaultbutton == &button);
-        if (button.bar) {
-            json.add("held", screen.dragged == &button).add("row", indexof(screen, rowof(button)));
-        }
-        break;
-    }
-    case Kind::optionbutton: {
-        const auto& option = static_cast<const OptionButton&>(control);
-        json.add("key", letter(option.accesskey))
-            .add("checked", option.selected)
-            .add("presses", option.press != nullptr);
-        break;
-    }
+    case Kind::label:
+        return kindtext(static_cast<const Label&>(control));
+    case Kind::button:
+        return kindtext(static_cast<const Button&>(control));
+    case Kind::optionbutton:
+        return kindtext(static_cast<const OptionButton&>(control));
     case Kind::textbox: {
         const auto& box = static_cast<const TextBox&>(control);
-        json.add("multiline", box.multiline).add("readonly", box.readonly);
-        break;
+        return object("kind", "textbox", "multiline", box.multiline, "readonly", box.readonly);
     }
-    case Kind::list: {
-        const auto& list = static_cast<const List&>(control);
-        json.add("marked", std::vector<int>(list.selected.begin(), list.selected.end()))
-            .add("columns", list.columns)
-            .add("multiselect", list.multiselect)
-            .add("pushesup", list.pushesup);
-        break;
-    }
+    case Kind::list:
+        return kindtext(static_cast<const List&>(control));
     case Kind::combo:
-        json.add("position", static_cast<const Combo&>(control).position);
-        break;
+        return object("kind", "combo", "position", static_cast<const Combo&>(control).position);
     case Kind::frame:
-        json.add("border", static_cast<const Frame&>(control).border);
-        break;
+        return object("kind", "frame", "border", static_cast<const Frame&>(control).border);
     case Kind::picture: {
         const auto& picture = static_cast<const Picture&>(control);
-        json.add("picture", idof(picture.picture)).add("clicks", picture.click != nullptr);
-        break;
+        return object("kind", "picture", "picture", idof(picture.picture), "clicks", picture.click != nullptr);
     }
     case Kind::spin:
-        json.add("buddy", indexof(screen, static_cast<const Spin&>(control).buddy));
-        break;
+        return object("kind", "spin", "buddy", indexof(*control.screen, static_cast<const Spin&>(control).buddy));
     }
+    return object("kind", "");
 }
 
 } // namespace
 
-void Json::key(std::string_view name)
+std::string jsontext(std::string_view text)
 {
-    fields_ += fields_.size() > 1 ? ",\"" : "\"";
-    fields_ += name;
-    fields_ += "\":";
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string result = "\"";
+    for (const char c : toutf8(text)) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x20) {
+            result += "\\u00";
+            result += digits[byte >> 4];
+            result += digits[byte & 15];
+        } else {
+            result += c == '"' || c == '\\' ? "\\" : "";
+            result += c;
+        }
+    }
+    return result + '"';
 }
 
-Json& Json::add(std::string_view name, std::string_view text)
+std::string jsontext(const char* text)
 {
-    key(name);
-    fields_ += quoted(text);
-    return *this;
+    return jsontext(std::string_view(text));
 }
 
-Json& Json::add(std::string_view name, int number)
+std::string jsontext(int number)
 {
-    key(name);
-    fields_ += std::to_string(number);
-    return *this;
+    return std::to_string(number);
 }
 
-Json& Json::add(std::string_view name, bool flag)
+std::string jsontext(bool flag)
 {
-    key(name);
-    fields_ += flag ? "true" : "false";
-    return *this;
+    return flag ? "true" : "false";
 }
 
-Json& Json::add(std::string_view name, Colour colour)
+std::string jsontext(Colour colour)
 {
-    return add(name, "rgb(" + std::to_string(colour.red) + ',' + std::to_string(colour.green) + ',' +
-                         std::to_string(colour.blue) + ')');
+    return "\"rgb(" + std::to_string(colour.red) + ',' + std::to_string(colour.green) + ',' +
+           std::to_string(colour.blue) + ")\"";
 }
 
-Json& Json::add(std::string_view name, const std::vector<std::string>& texts)
+std::string jsontext(const std::vector<std::string>& texts)
 {
-    key(name);
-    fields_ += array(texts, [](const std::string& text) { return quoted(text); });
-    return *this;
+    return array(texts);
 }
 
-Json& Json::add(std::string_view name, const std::vector<int>& numbers)
+std::string jsontext(const std::vector<int>& numbers)
 {
-    key(name);
-    fields_ += array(numbers, [](int number) { return std::to_string(number); });
-    return *this;
+    return array(numbers);
 }
 
-int idof(const PictureRef& picture)
+std::string joined(std::string object, std::string_view other)
 {
-    return picture == nullptr ? 0 : *static_cast<const int*>(picture->pixels.get());
+    object.back() = ',';
+    return object.append(other.substr(1));
 }
 
 int indexof(const Screen& screen, const Control* control)
@@ -191,41 +175,21 @@ const std::vector<std::string>* linesof(const Control& control)
 
 std::string screentext(int window, const Screen& screen)
 {
-    return Json()
-        .add("window", window)
-        .add("name", screen.name)
-        .add("caption", screen.caption)
-        .add("back", screen.back)
-        .add("backdrop", idof(screen.backdrop))
-        .add("width", static_cast<int>(std::lround(screen.width / twipsinpixel)))
-        .add("height", static_cast<int>(std::lround(screen.height / twipsinpixel)))
-        .add("state", screen.windowstate)
-        .add("scrolls", screen.scrolls)
-        .text();
+    return object("window", window, "name", screen.name, "caption", screen.caption, "back", screen.back, "backdrop",
+                  idof(screen.backdrop), "width", pixels(screen.width), "height", pixels(screen.height), "state",
+                  int{screen.windowstate}, "scrolls", screen.scrolls);
 }
 
-Json controltext(int window, int index, const Control& control)
+std::string controltext(int window, const Control& control)
 {
-    Json json;
-    json.add("window", window)
-        .add("control", index)
-        .add("kind", kindname(control))
-        .add("name", control.name)
-        .add("in", indexof(*control.screen, control.container))
-        .add("text", control.text)
-        .add("tip", control.tooltip)
-        .add("says", control.says)
-        .add("back", control.back)
-        .add("fore", control.fore)
-        .add("face", static_cast<int>(control.font.face))
-        .add("size", fontpixels(control.font))
-        .add("bold", control.font.bold)
-        .add("visible", control.visible)
-        .add("enabled", control.enabled)
-        .add("opaque", control.opaque)
-        .add("surface", issurface(control));
-    addkind(json, control);
-    return json;
+    const Screen& screen = *control.screen;
+    const std::string all =
+        object("window", window, "control", indexof(screen, &control), "name", control.name, "in",
+               indexof(screen, control.container), "text", control.text, "tip", control.tooltip, "says", control.says,
+               "back", control.back, "fore", control.fore, "face", static_cast<int>(control.font.face), "size",
+               fontpixels(control.font), "bold", control.font.bold, "visible", control.visible, "enabled",
+               control.enabled, "opaque", control.opaque, "surface", issurface(control));
+    return joined(all, kindtext(control));
 }
 
 } // namespace brindor::toolkit::web

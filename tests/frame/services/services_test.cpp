@@ -1,9 +1,5 @@
 #include "base/files.h"
-#include "frame/services/log.h"
 #include "frame/services/placement.h"
-#include "frame/services/score.h"
-#include "frame/services/settings.h"
-#include "questions/question.h"
 #include "support/gametest.h"
 #include "timeline/timeline.h"
 
@@ -32,20 +28,6 @@ protected:
         return contentof("bdq.INI");
     }
 };
-
-TEST_F(Services, ARestoreStoresNothingOnItsWayNorDoesARowOutsideTheTable)
-{
-    struct Plain : toolkit::Screen {
-    } screen;
-    screen.resize = [&screen] { placeform(screen, 3, storeplacement); };
-    screen.shown = true; // so that each step of the restore raises a resize
-    placements[3] = {2, 77, 5000, 6000};
-    placeform(screen, 3, restoreplacement);
-    placeform(screen, -1, storeplacement);
-    placeform(screen, 11, restoreplacement);
-    EXPECT_EQ(screen.width * 10 + screen.height + screen.windowstate, 65002);
-    EXPECT_EQ(placements[3].backcolor + placements[10].width, 12077);
-}
 
 TEST_F(Services, ScoreAndLogLinesFollowTheLevelAndAFailureToWriteIsToldOnce)
 {

@@ -6,6 +6,7 @@ import { tell } from './queue.js';
 const popup = make('div', { id: 'popup', className: 'list', hidden: true });
 popup.setAttribute('role', 'listbox');
 document.body.append(popup);
+const mostlines = 1000;
 let owner = null; // what closes the list of the combo that is open
 
 
@@ -40,8 +41,11 @@ export function makecombo(win, record) {
     const open = (holding) => {
         owner?.();
         const wanted = holding.toLowerCase();
-        const lines = view.record.lines.map((text, at) => ({ text, at }))
+        const all = view.record.lines.map((text, at) => ({ text, at }))
             .filter(({ text }) => text.toLowerCase().includes(wanted));
+        // Of a very long list the part round the line that was picked last.
+        const first = Math.min(Math.max(0, view.record.position - mostlines / 2), Math.max(0, all.length - mostlines));
+        const lines = all.slice(first, first + mostlines);
         if (lines.length === 0) {
             return;
         }
@@ -68,7 +72,7 @@ export function makecombo(win, record) {
     // All lines, at the one that was picked last.
     const openall = () => {
         open('');
-        mark(popup.children[view.record.position]);
+        mark(document.getElementById(`pick${view.record.position}`));
     };
     arrow.addEventListener('click', () => {
         const isopen = owner === close;

@@ -107,7 +107,8 @@ function makeframe() {
         active: root,
         update(frame) {
             root.classList.toggle('bordered', frame.border);
-            legend.textContent = frame.border ? shown(frame.text) : '';
+            legend.hidden = !frame.border;
+            legend.textContent = shown(frame.text);
             root.setAttribute('role', frame.border ? 'group' : 'presentation');
         },
     };
@@ -184,9 +185,10 @@ export function updateview(win, view, record) {
     root.classList.toggle('surface', record.surface);
     style.order = record.control * 2; // in one column; leaves room for what lies on it
     root.hidden = !record.visible;
-    for (const element of root.matches('fieldset') ? [] : [root, ...root.querySelectorAll('input, button')]) {
+    for (const element of [root, ...record.kind === 'frame' ? [] : root.querySelectorAll('input, button')]) {
         element.disabled = !record.enabled;
     }
+    setattribute(active, 'aria-disabled', record.enabled ? '' : 'true');
     root.classList.toggle('disabled', !record.enabled);
     setattribute(root, 'title', record.tip);
     setattribute(active, 'aria-label', record.says);

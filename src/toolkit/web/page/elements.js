@@ -21,25 +21,27 @@ export function caption(element, text, key) {
     }
 }
 
-// Follows a pointer that went down on an element until it is let go: `move` and `done` get the event.
-export function follow(element, down, move, done) {
+// Follows a pointer that went down on an element until it is let go, wherever that is and even if the element has
+// gone: `move` and `done` get the event.
+export function follow(element, down, move, done = () => {}) {
     element.setPointerCapture(down.pointerId);
-    const moved = (event) => event.pointerId === down.pointerId && move(event);
-    const end = (event) => {
+    const over = new AbortController();
+    const watch = (type, act) => document.addEventListener(type, (event) => {
         if (event.pointerId === down.pointerId) {
-            element.removeEventListener('pointermove', moved);
-            element.removeEventListener('pointerup', end);
-            element.removeEventListener('pointercancel', end);
-            done(event);
+            act(event);
         }
-    };
-    element.addEventListener('pointermove', moved);
-    element.addEventListener('pointerup', end);
-    element.addEventListener('pointercancel', end);
+    }, { signal: over.signal });
+    watch('pointermove', move);
+    for (const end of ['pointerup', 'pointercancel']) {
+        watch(end, (event) => {
+            over.abort();
+            done(event);
+        });
+    }
 }
 
 export function setattribute(element, name, value) {
-    if (value === null || value === '') {
+    if (value === '') {
         element.removeAttribute(name);
     } else if (element.getAttribute(name) !== String(value)) {
         element.setAttribute(name, value);

@@ -14,8 +14,7 @@ let own = []; // names of the visitor's timelines
 let files = null; // of the running program
 
 async function content(name) {
-    const kept = globalThis.embedded?.[name];
-    const answer = await fetch(kept ?? name);
+    const answer = await fetch(globalThis.embedded?.[name] ?? name);
     if (!answer.ok) {
         throw new Error(`${name}: ${answer.status}`);
     }
@@ -110,6 +109,15 @@ export function keepfiles() {
     }
 }
 
+// Names and texts of all that is kept; nothing in a browser that forbids it.
+function kept() {
+    try {
+        return Object.entries(localStorage);
+    } catch {
+        return [];
+    }
+}
+
 function savelog() {
     const log = files.analyzePath(`${folder}/${logfile}`).exists ? files.readFile(`${folder}/${logfile}`) : '';
     const link = make('a', { href: URL.createObjectURL(new Blob([log], { type: 'text/plain' })), download: logfile });
@@ -129,10 +137,9 @@ export async function readyfiles(program) {
         files.mkdir(folder);
         shipped.forEach((name, i) => files.writeFile(`${folder}/${name}`, contents[i]));
         own.forEach((name, i) => files.writeFile(`${folder}/${name}`, mine[i]));
-        for (let i = 0; i < (globalThis.localStorage?.length ?? 0); i += 1) {
-            const key = localStorage.key(i);
+        for (const [key, text] of kept()) {
             if (key.startsWith(prefix)) {
-                files.writeFile(`${folder}/${key.slice(prefix.length)}`, bytesof(localStorage.getItem(key)));
+                files.writeFile(`${folder}/${key.slice(prefix.length)}`, bytesof(text));
             }
         }
     };

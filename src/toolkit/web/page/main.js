@@ -66,6 +66,7 @@ async function start() {
     await startprogram(program);
 }
 
+addEventListener('unhandledrejection', () => ended('The game has come to a halt. What was set is kept. '));
 start().catch((fault) => {
     console.error(fault);
     ended(`The game could not be loaded: ${fault.message ?? fault}. `);

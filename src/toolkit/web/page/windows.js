@@ -11,6 +11,8 @@ const largest = 1.6;
 const question = { width: 800, height: 600 }; // the size that the scale of all windows goes by
 const narrow = matchMedia('(max-width: 699px)'); // one column then; style.css says the same
 
+const touched = matchMedia('(pointer: coarse)');
+
 // How large the windows are shown.
 function scale() {
     const margin = 16;
@@ -71,7 +73,7 @@ function drag(win, down, handle, move) {
         return;
     }
     const at = { ...win.moved, width: win.record.width, height: win.record.height };
-    follow(handle, down, (event) => move(event.clientX - down.clientX, event.clientY - down.clientY, at), () => {});
+    follow(handle, down, (event) => move(event.clientX - down.clientX, event.clientY - down.clientY, at));
 }
 
 // Puts a window in the middle of the page, or where it was moved from there, as large as the page lets it be.
@@ -98,11 +100,12 @@ function updatescreen(win, record) {
     section.style.setProperty('--backdrop', record.backdrop ? `url("${addressof(record.backdrop)}")` : 'none');
     content.classList.toggle('fixed', !record.scrolls);
     win.caption.textContent = record.caption;
-    if (record.state === 2 && !win.filled) { // maximised
-        win.filled = true;
+    const maximised = record.state === 2;
+    if (maximised && !win.filled) {
         const { width, height } = pagesize();
         tell(win.serial, 'resize', -1, 2, `${width} ${height}`);
     }
+    win.filled = maximised;
     fit(win);
 }
 
@@ -153,10 +156,17 @@ function present(win) {
         other.section.inert = other !== win;
     }
     win.section.classList.add('shown');
+    // The question, or whatever else a window says first.
+    const words = win.views.find(({ record }) => record.kind === 'label' && record.visible);
+    if (words) {
+        words.root.id = `words${win.serial}`;
+        win.section.setAttribute('aria-describedby', words.root.id);
+    }
     // Not an option that answers by itself to a Space that nobody meant.
     const first = win.views.find(({ active, record }) => record.visible && record.enabled && active.tabIndex >= 0 &&
         !(record.kind === 'option' && !record.presses) && active.checkVisibility?.() !== false);
-    if (first) {
+    // A field would bring up the keyboard of a device that is touched.
+    if (first && !(touched.matches && ['textbox', 'combo'].includes(first.record.kind))) {
         bring(win, first);
     } else {
         document.activeElement?.blur();
