@@ -5,14 +5,6 @@
 
 namespace brindor {
 
-std::optional<std::int16_t> toint16(std::int64_t number)
-{
-    if (number < lowest16 || number > highest16) {
-        return std::nullopt;
-    }
-    return static_cast<std::int16_t>(number);
-}
-
 double roundtoeven(double number)
 {
     const double below = std::floor(number);

@@ -11,7 +11,10 @@ inline constexpr std::int16_t lowest16 = -32768;
 inline constexpr std::int16_t highest16 = 32767;
 
 // Nothing where the number lies outside 16 bits; a failure text then says that it "is outside -32768 to 32767".
-std::optional<std::int16_t> toint16(std::int64_t number);
+inline std::optional<std::int16_t> toint16(std::int64_t number)
+{
+    return number < lowest16 || number > highest16 ? std::nullopt : std::optional(static_cast<std::int16_t>(number));
+}
 inline constexpr std::string_view outside16 = "is outside -32768 to 32767";
 
 // The nearest whole number, a half to the even neighbour.

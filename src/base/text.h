@@ -58,10 +58,15 @@ double textvalue(std::string_view text);
 // A number in decimal with up to 15 significant digits and no trailing zeros: 12.50 becomes "12.5".
 std::string decimaltext(double number);
 
-// Takes the next value off a line: values stand between commas, blanks and tabs. Empty where none is left.
+// Values on a line stand between commas, blanks and tabs.
+inline bool separates(char c)
+{
+    return c == ',' || c == ' ' || c == '\t';
+}
+
+// Takes the next value off a line. Empty where none is left.
 inline std::string_view takevalue(std::string_view& line)
 {
-    const auto separates = [](char c) { return c == ',' || c == ' ' || c == '\t'; };
     const auto begin = std::find_if_not(line.begin(), line.end(), separates);
     const auto end = std::find_if(begin, line.end(), separates);
     line = {end, line.end()};

@@ -141,10 +141,10 @@ bool RecordEditor<Family>::storeentry(std::int16_t k)
     if (differs_.storeown) {
         differs_.storeown(record);
     }
+    ++timelinestate;
     if (olddate1 != record.date1) {
         movetoplace(k);
     }
-    datachanged = 0;
     return true;
 }
 

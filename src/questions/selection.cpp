@@ -30,41 +30,52 @@ bool playable(std::int16_t type)
     return type >= 1 && type <= lasttype;
 }
 
-// The comparison texts of the slots already drawn, and of the item looked at. Kept from call to call for their memory.
-struct Texts {
-    std::array<std::string, itemsasked> before;
-    std::string item;
+// Items with different comparison texts: those of the slots already drawn, or those that are being looked for. Kept
+// from call to call for the memory of the texts.
+struct Different {
+    std::array<std::int16_t, itemsasked> items{};
+    std::array<std::string, itemsasked> texts;
+    std::size_t count = 0;
+    std::string latest; // the text of the item looked at
 
-    // Whether an item's text is not blank and differs from the texts of the slots before `slot`. Where it is, `item`
-    // holds it.
-    bool accept(const TextPieces& compared, std::int16_t candidate, std::int16_t slot)
+    // Whether an item's text is not blank and differs from all of them. No text is put together for an item that a look
+    // at its record refuses.
+    bool accept(const TextPieces& compared, std::int16_t candidate)
     {
-        for (std::int16_t i = 0; i < slot; ++i) {
-            if (piecesare(before[static_cast<std::size_t>(i)], compared, candidate)) {
-                return false;
-            }
+        const auto end = items.begin() + static_cast<std::ptrdiff_t>(count);
+        if (std::any_of(items.begin(), end,
+                        [&](std::int16_t item) { return samesources(compared, item, candidate); })) {
+            return false;
         }
-        item.clear();
-        addpieces(item, compared, candidate);
-        return item > " ";
+        latest.clear();
+        addpieces(latest, compared, candidate);
+        const auto textsend = texts.begin() + static_cast<std::ptrdiff_t>(count);
+        return latest > " " && std::find(texts.begin(), textsend, latest) == textsend;
+    }
+
+    // Takes the item that was looked at last.
+    void take(std::int16_t item)
+    {
+        items[count] = item;
+        std::swap(texts[count], latest);
+        ++count;
     }
 };
-Texts texts;
+Different different;
 
 // A type for which different items are being looked for.
 struct Filling {
     std::int16_t type = 0;
     const TextPieces* compared = nullptr;
-    Texts found{};
-    std::int16_t count = 0;
+    Different found{};
 
     // Looks at one more item; true once there are enough.
     bool full(std::int16_t item)
     {
-        if (found.accept(*compared, item, count)) {
-            std::swap(found.before[static_cast<std::size_t>(count++)], found.item);
+        if (found.accept(*compared, item)) {
+            found.take(item);
         }
-        return count == itemsasked;
+        return found.count == itemsasked;
     }
 };
 
@@ -136,7 +147,7 @@ int misses(double hit)
 std::int16_t draw(const TextPieces& compared, std::span<const std::int16_t> marks, std::int16_t slot)
 {
     const std::int16_t count = index16(std::ssize(marks));
-    const auto good = [&](std::int16_t item) { return texts.accept(compared, item, slot); };
+    const auto good = [&](std::int16_t item) { return different.accept(compared, item); };
     int level = 1;
     int tries = 0;
     pool.begin(slot);
@@ -184,10 +195,12 @@ std::int16_t getitem(std::int16_t slot)
     isperson = kindof(qtype).of == ItemKind::person ? 1 : 0;
     const std::int16_t count = isperson != 0 ? peoplecount() : eventcount();
     const TextPieces& compared = kindof(qtype).compared;
-    for (std::int16_t i = 0; i < slot; ++i) {
-        std::string& text = texts.before[static_cast<std::size_t>(i)];
-        text.clear();
-        addpieces(text, compared, chosen[static_cast<std::size_t>(i)]);
+    different.count = 0;
+    while (different.count < static_cast<std::size_t>(slot)) {
+        const std::int16_t item = chosen[different.count];
+        different.latest.clear();
+        addpieces(different.latest, compared, item);
+        different.take(item);
     }
     const std::int16_t item =
         count > 0
@@ -201,8 +214,10 @@ std::int16_t getitem(std::int16_t slot)
     return std::max<std::int16_t>(item, 0);
 }
 
+namespace {
+
 // Goes through the items once, whatever number of types is still open, since memory is what it waits for.
-ByType<bool> fillabletypes()
+ByType<bool> findfillable()
 {
     ByType<bool> fillable{};
     for (const ItemKind family : {ItemKind::person, ItemKind::event}) {
@@ -221,6 +236,20 @@ ByType<bool> fillabletypes()
                 }
             }
         }
+    }
+    return fillable;
+}
+
+} // namespace
+
+ByType<bool> fillabletypes()
+{
+    static ByType<bool> fillable;
+    static std::int64_t state = -1; // of the Timeline that this is known of
+    constexpr int few = 2000;       // so few are looked at anew each time: it takes less than a millisecond
+    if (state != timelinestate || npeople + nevents <= few) {
+        fillable = findfillable();
+        state = timelinestate;
     }
     return fillable;
 }

@@ -43,7 +43,7 @@ std::string paramname(std::int16_t kind, std::int16_t item, std::int16_t extra)
 std::string getpstr(std::int16_t item, std::int16_t type)
 {
     const TextPieces& compared = kindof(type).compared;
-    if (compared.all.front() == nullptr) {
+    if (compared.all.front().text == nullptr) {
         toolkit::messagebox("No getpstr for " + numbertext(type));
     }
     std::string text;

@@ -11,87 +11,80 @@ namespace brindor {
 
 namespace {
 
-template <class Family>
-std::string_view name(std::string&, std::int16_t item)
-{
-    return Family::record(item).name;
-}
+// What stands in a record as it is, and a name that a record has the index of.
+template <class Family, std::string ItemRec::*field>
+constexpr TextPiece stored = {
+    [](std::string&, std::int16_t item) -> std::string_view { return Family::record(item).*field; },
+    [](std::int16_t one, std::int16_t other) { return Family::record(one).*field == Family::record(other).*field; }};
+
+template <class Family, const Catalogue& catalogue, std::int16_t Family::Record::*index>
+constexpr TextPiece entry = {
+    [](std::string&, std::int16_t item) -> std::string_view {
+        return entryname(catalogue, Family::record(item).*index);
+    },
+    [](std::int16_t one, std::int16_t other) { return Family::record(one).*index == Family::record(other).*index; }};
 
 template <class Family>
-std::string_view desc1(std::string&, std::int16_t item)
+constexpr TextPiece name = stored<Family, &ItemRec::name>;
+template <class Family>
+constexpr TextPiece desc1 = stored<Family, &ItemRec::desc1>;
+template <class Family>
+constexpr TextPiece desc2 = stored<Family, &ItemRec::desc2>;
+constexpr TextPiece faction = entry<PersonFamily, factions, &PersonRec::faction>;
+constexpr TextPiece occupation = entry<PersonFamily, occupations, &PersonRec::occupation>;
+constexpr TextPiece group = entry<EventFamily, groups, &EventRec::group>;
+
+constexpr TextPiece nation = {[](std::string& scratch, std::int16_t item) -> std::string_view {
+                                  addnations(scratch, eventrec(item));
+                                  return scratch;
+                              },
+                              [](std::int16_t one, std::int16_t other) {
+                                  const EventRec& a = eventrec(one);
+                                  const EventRec& b = eventrec(other);
+                                  return a.nation1 == b.nation1 && a.nation2 == b.nation2;
+                              }};
+
+template <class Family>
+constexpr TextPiece date1 = {
+    [](std::string& scratch, std::int16_t item) -> std::string_view {
+        addnumber(scratch, Family::record(item).date1);
+        return scratch;
+    },
+    [](std::int16_t one, std::int16_t other) { return Family::record(one).date1 == Family::record(other).date1; }};
+
+template <class Family>
+bool samedates(std::int16_t one, std::int16_t other)
 {
-    return Family::record(item).desc1;
+    const Dates& a = Family::record(one);
+    const Dates& b = Family::record(other);
+    return a.date1 == b.date1 && a.date2 == b.date2 && a.datetype1 == b.datetype1 && a.datetype2 == b.datetype2;
 }
 
 template <class Family>
-std::string_view desc2(std::string&, std::int16_t item)
-{
-    return Family::record(item).desc2;
-}
+constexpr TextPiece datesto = {[](std::string& scratch, std::int16_t item) -> std::string_view {
+                                   adddates(scratch, Family::record(item), "to");
+                                   return scratch;
+                               },
+                               samedates<Family>};
 
 template <class Family>
-std::string_view date1(std::string& scratch, std::int16_t item)
-{
-    addnumber(scratch, Family::record(item).date1);
-    return scratch;
-}
-
-template <class Family>
-std::string_view datesto(std::string& scratch, std::int16_t item)
-{
-    adddates(scratch, Family::record(item), "to");
-    return scratch;
-}
-
-template <class Family>
-std::string_view datesdash(std::string& scratch, std::int16_t item)
-{
-    adddates(scratch, Family::record(item), "-");
-    return scratch;
-}
-
-std::string_view faction(std::string&, std::int16_t item)
-{
-    return entryname(factions, personrec(item).faction);
-}
-
-std::string_view occupation(std::string&, std::int16_t item)
-{
-    return entryname(occupations, personrec(item).occupation);
-}
-
-std::string_view group(std::string&, std::int16_t item)
-{
-    return entryname(groups, eventrec(item).group);
-}
-
-std::string_view nation(std::string& scratch, std::int16_t item)
-{
-    addnations(scratch, eventrec(item));
-    return scratch;
-}
+constexpr TextPiece datesdash = {[](std::string& scratch, std::int16_t item) -> std::string_view {
+                                     adddates(scratch, Family::record(item), "-");
+                                     return scratch;
+                                 },
+                                 samedates<Family>};
 
 // What lies between two pieces.
-std::string_view blank(std::string&, std::int16_t)
-{
-    return " ";
-}
-
-std::string_view twoblanks(std::string&, std::int16_t)
-{
-    return "  ";
-}
-
-std::string_view dashes(std::string&, std::int16_t)
-{
-    return " -- ";
-}
+constexpr TextPiece blank = {[](std::string&, std::int16_t) { return std::string_view(" "); }};
+constexpr TextPiece twoblanks = {[](std::string&, std::int16_t) { return std::string_view("  "); }};
+constexpr TextPiece dashes = {[](std::string&, std::int16_t) { return std::string_view(" -- "); }};
 
 // The one text that rests on the draw in progress: a bare name has no family of its own.
-std::string_view nameofeither(std::string& scratch, std::int16_t item)
-{
-    return (isperson != 0 ? name<PersonFamily> : name<EventFamily>)(scratch, item);
-}
+constexpr TextPiece nameofeither = {
+    [](std::string& scratch, std::int16_t item) {
+        return (isperson != 0 ? name<PersonFamily> : name<EventFamily>).text(scratch, item);
+    },
+    [](std::int16_t one, std::int16_t other) { return one == other; }};
 
 using P = PersonFamily;
 using E = EventFamily;
@@ -131,22 +124,6 @@ static_assert(std::size(kinds) == lasttype + 1, "one row a type");
 
 std::string scratch; // of the piece in hand; kept for its memory
 
-// Hands the pieces of an item's text over, one by one, as long as `take` says true.
-template <class Take>
-bool foreachpiece(const TextPieces& pieces, std::int16_t item, const Take& take)
-{
-    for (const TextPiece piece : pieces.all) {
-        if (piece == nullptr) {
-            break;
-        }
-        scratch.clear();
-        if (!take(piece(scratch, item))) {
-            return false;
-        }
-    }
-    return true;
-}
-
 } // namespace
 
 const QuestionKind& kindof(std::int16_t type)
@@ -158,21 +135,26 @@ const QuestionKind& kindof(std::int16_t type)
 
 void addpieces(std::string& text, const TextPieces& pieces, std::int16_t item)
 {
-    foreachpiece(pieces, item, [&text](std::string_view piece) {
-        text += piece;
-        return true;
-    });
+    for (const TextPiece& piece : pieces.all) {
+        if (piece.text == nullptr) {
+            break;
+        }
+        scratch.clear();
+        text += piece.text(scratch, item);
+    }
 }
 
-bool piecesare(std::string_view text, const TextPieces& pieces, std::int16_t item)
+bool samesources(const TextPieces& pieces, std::int16_t one, std::int16_t other)
 {
-    return foreachpiece(pieces, item,
-                        [&text](std::string_view piece) {
-                            const bool same = text.starts_with(piece);
-                            text.remove_prefix(same ? piece.size() : 0);
-                            return same;
-                        }) &&
-           text.empty();
+    for (const TextPiece& piece : pieces.all) {
+        if (piece.text == nullptr) {
+            break;
+        }
+        if (piece.samesource != nullptr && !piece.samesource(one, other)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace brindor

@@ -11,11 +11,18 @@ namespace brindor {
 enum class ItemKind { any, person, event };
 enum class QuizScreen { none, mchoice, qsort, qmatch };
 
-// A piece of a text: what it says of an item. What stands in no record is put together in `scratch`, which is empty;
-// the piece is good until the next one is asked for. An item outside its family counts as an empty record.
-using TextPiece = std::string_view (*)(std::string& scratch, std::int16_t item);
+// A piece of a text.
+struct TextPiece {
+    // What it says of an item. What stands in no record is put together in `scratch`, which is empty; the piece is good
+    // until the next one is asked for. An item outside its family counts as an empty record.
+    std::string_view (*text)(std::string& scratch, std::int16_t item) = nullptr;
 
-// The pieces of a text in their order, nullptr behind the last; none at all where a type has no such text.
+    // Whether two items hold the same where it comes from, so that it says the same of both; different sources can
+    // still say the same. nullptr where it says the same of all.
+    bool (*samesource)(std::int16_t one, std::int16_t other) = nullptr;
+};
+
+// The pieces of a text in their order, empty ones behind the last; none at all where a type has no such text.
 struct TextPieces {
     std::array<TextPiece, 5> all;
 };
@@ -37,7 +44,7 @@ const QuestionKind& kindof(std::int16_t type);
 // Adds the pieces put together for an item to a text.
 void addpieces(std::string& text, const TextPieces& pieces, std::int16_t item);
 
-// Whether the pieces put together for an item are this text. Puts nothing together for it.
-bool piecesare(std::string_view text, const TextPieces& pieces, std::int16_t item);
+// Whether all pieces have the same sources for two items, which then have the same text. Puts no text together.
+bool samesources(const TextPieces& pieces, std::int16_t one, std::int16_t other);
 
 } // namespace brindor

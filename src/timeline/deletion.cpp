@@ -26,6 +26,7 @@ void deleteitem(std::int16_t k)
     std::copy(first + k + 1, first + static_cast<std::ptrdiff_t>(count), first + k);
     removemark(Family::isperson, k);
     count -= 1;
+    ++timelinestate;
     if (Family::cursor() > 0) {
         --Family::cursor();
     }

@@ -12,8 +12,8 @@ namespace brindor {
 
 namespace {
 
-constexpr std::size_t chunk = 262144;
-constexpr std::size_t longestline = 1048576; // no real line comes near; keeps a file without line ends out of memory
+constexpr std::size_t chunk = 65536;
+constexpr std::ptrdiff_t longestline = 1048576; // no real line comes near; keeps a file without line ends out of memory
 
 // Long tokens of a broken file are cut in messages.
 std::string quoted(std::string_view found)
@@ -40,55 +40,63 @@ Result<LineReader> LineReader::open(const std::string& filename)
     if (!reader.fill()) {
         return {std::nullopt, reader.failure_};
     }
-    reader.rest_ = withoutmark(reader.rest_);
+    reader.at_ = withoutmark({reader.at_, reader.end_}).data();
     return {std::move(reader), {}};
 }
 
-// What is left moves to the front; the buffer grows only for a line that takes most of it.
+// What is left moves to the front; the buffer grows only for a line that takes most of it. A last line without an end
+// is given one.
 bool LineReader::fill()
 {
-    const std::size_t left = rest_.size();
+    const std::size_t left = static_cast<std::size_t>(end_ - at_);
     if (left > 0) {
-        std::memmove(buffer_.data(), rest_.data(), left);
+        std::memmove(buffer_.data(), at_, left);
     }
     if (left > buffer_.size() / 2) {
         buffer_.resize(buffer_.size() * 2);
     }
-    const Result<std::size_t> got = readsome(file_, std::span(buffer_).subspan(left));
-    rest_ = {buffer_.data(), left + got.value.value_or(0)};
+    constexpr std::size_t spare = 2; // for that end, and a 0
+    const std::size_t room = buffer_.size() - left - spare;
+    const Result<std::size_t> got = readsome(file_, std::span(buffer_).subspan(left, room));
+    ended_ = got && *got.value == 0;
+    std::size_t held = left + got.value.value_or(0);
+    if (ended_ && left > 0) {
+        buffer_[held++] = '\n';
+    }
+    buffer_[held] = '\0';
+    at_ = buffer_.data();
+    end_ = at_ + held;
     if (!got) {
         refuse("cannot be read: " + got.reason + ". Check the disk and choose the period again.");
         return false;
     }
-    ended_ = *got.value == 0;
     return true;
 }
 
-bool LineReader::readon(std::size_t& end, std::string_view expected)
+bool LineReader::readon(const char*& end, std::string_view expected)
 {
-    while (end == std::string_view::npos && !ended_) {
-        const std::size_t searched = rest_.size();
+    while (end == nullptr && !ended_) {
+        const std::ptrdiff_t searched = end_ - at_;
         if (!fill()) {
             return false;
         }
-        end = rest_.find('\n', searched);
-        if (std::min(end, rest_.size()) > longestline) {
+        end = lineend(at_ + searched);
+        if ((end == nullptr ? end_ : end) - at_ > longestline) {
             ++lines_;
             refuse("the line is longer than " + numbertext(std::int64_t{longestline}) +
                    " bytes. Check that this is a timeline file.");
             return false;
         }
     }
-    if (rest_.empty()) {
+    if (end == nullptr) {
         refuse("the file ends here, but " + std::string(expected) +
                " should follow. Complete the file and choose the period again.");
         return false;
     }
-    end = std::min(end, rest_.size());
     return true;
 }
 
-bool LineReader::numbers(std::span<std::int16_t> numbers, std::string_view expected)
+bool LineReader::oddnumbers(std::span<std::int16_t> numbers, std::string_view expected)
 {
     std::size_t found = 0;
     while (found < numbers.size()) {

@@ -66,6 +66,16 @@ std::int16_t readcount(Reading& reading, std::string_view expected)
     return reading.ok() ? index16(count) : std::int16_t{0};
 }
 
+void emptyown(PersonRec& person)
+{
+    person.faction = person.occupation = 0;
+}
+
+void emptyown(EventRec& event)
+{
+    event.group = event.nation1 = event.nation2 = 0;
+}
+
 void readown(Reading& reading, PersonRec& person)
 {
     reading.numbers("a person's faction and occupation", person.faction, person.occupation);
@@ -74,6 +84,18 @@ void readown(Reading& reading, PersonRec& person)
 void readown(Reading& reading, EventRec& event)
 {
     reading.numbers("an event's group and two nations", event.group, event.nation1, event.nation2);
+}
+
+// As a new record is; the texts keep their memory for those that follow.
+template <class Record>
+void makeempty(Record& record)
+{
+    for (std::string* text : {&record.name, &record.desc1, &record.desc2, &record.desc3, &record.imagename}) {
+        text->clear();
+    }
+    static_cast<Dates&>(record) = {};
+    record.imagesize1 = record.imagesize2 = record.live = 0;
+    emptyown(record);
 }
 
 template <class Record>
@@ -98,24 +120,28 @@ void readblock(Reading& reading, Record& record)
     }
 }
 
-// All slots empty, two of them behind the last record.
-template <class Record>
-void makeempty(std::vector<Record>& records, double count)
-{
-    records.clear();
-    records.resize(static_cast<std::size_t>(count) + 2);
-}
-
+// Each record is made or emptied when its turn comes, so that memory is gone through once. However far the reading
+// gets, the array has all its slots: the rest are empty, and two lie behind the last record.
 template <class Family>
 void readfamily(Reading& reading, std::int16_t count, std::vector<std::int64_t>* lines)
 {
+    auto& records = Family::records();
+    records.reserve(static_cast<std::size_t>(count) + 2);
     reading.headline("the head line of a section");
-    for (std::int16_t i = 0; i < count && reading.ok(); ++i) {
+    std::size_t used = 0;
+    for (; used < static_cast<std::size_t>(count) && reading.ok(); ++used) {
         if (lines != nullptr) {
             lines->push_back(reading.reader.linesread() + 2); // behind the record's head line
         }
-        readblock(reading, Family::records()[static_cast<std::size_t>(i)]);
+        if (used == records.size()) {
+            records.emplace_back();
+        } else {
+            makeempty(records[used]);
+        }
+        readblock(reading, records[used]);
     }
+    records.resize(used);
+    records.resize(static_cast<std::size_t>(count) + 2);
 }
 
 void readcatalogue(Reading& reading, Catalogue& catalogue, std::int16_t& counter, std::string_view name)
@@ -134,15 +160,19 @@ void readcatalogue(Reading& reading, Catalogue& catalogue, std::int16_t& counter
         return;
     }
     counter = count;
-    catalogue.resize(static_cast<std::size_t>(count) + 1);
+    const std::size_t size = static_cast<std::size_t>(count) + 1;
+    catalogue.resize(std::clamp(catalogue.size(), std::size_t{1}, size));
+    catalogue.reserve(size);
     const std::string head = "the head line of an entry" + whose;
     const std::string entry = "the name of an entry" + whose;
     const std::string weight = "the weight of an entry" + whose;
-    for (std::size_t i = 1; i < catalogue.size() && reading.ok(); ++i) {
+    for (std::size_t i = 1; i < size && reading.ok(); ++i) {
+        CatalogueEntry& into = i < catalogue.size() ? catalogue[i] : catalogue.emplace_back();
         reading.headline(head);
-        reading.line(catalogue[i].name, entry);
-        reading.numbers(weight, catalogue[i].catweight);
+        reading.line(into.name, entry);
+        reading.numbers(weight, into.catweight);
     }
+    catalogue.resize(size);
 }
 
 template <class Family>
@@ -163,16 +193,15 @@ Result<Done> filltimeline(const std::string& filename, RecordLines* lines)
         return {std::nullopt, opened.reason};
     }
     Reading reading{std::move(*opened.value)};
+    ++timelinestate;
     mindate = 9999;
     maxdate = -25000;
     const std::int16_t peoplelimit = readcount(reading, "the number of people");
     const std::int16_t eventlimit = readcount(reading, "the number of events");
     npeople = reading.ok() ? peoplelimit : 0;
     nevents = reading.ok() ? eventlimit : 0;
-    makeempty(people, npeople);
-    makeempty(events, nevents);
-    readfamily<PersonFamily>(reading, peoplelimit, lines != nullptr ? &lines->people : nullptr);
-    readfamily<EventFamily>(reading, eventlimit, lines != nullptr ? &lines->events : nullptr);
+    readfamily<PersonFamily>(reading, peoplecount(), lines != nullptr ? &lines->people : nullptr);
+    readfamily<EventFamily>(reading, eventcount(), lines != nullptr ? &lines->events : nullptr);
     readcatalogue(reading, factions, nfactions, "factions");
     readcatalogue(reading, occupations, noccupations, "occupations");
     readcatalogue(reading, groups, ngroups, "groups");

@@ -21,6 +21,8 @@ std::int16_t nnations = 0;
 std::int16_t mindate = 9999;
 std::int16_t maxdate = -25000;
 
+std::int64_t timelinestate = 0;
+
 std::int16_t curperson = 0;
 std::int16_t curevent = 0;
 

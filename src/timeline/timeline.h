@@ -87,6 +87,11 @@ extern std::int16_t nnations;
 extern std::int16_t mindate;
 extern std::int16_t maxdate;
 
+// Another number after each load and each edit, so that what was found out of the Timeline can be kept as long as it
+// holds. Raised by whatever changes records, counters or Catalogues: the load, the editors, the delete operations, the
+// tools and the tests that fill the Timeline themselves.
+extern std::int64_t timelinestate;
+
 // The records that the two editors show. Written by the load (to 0), the editors and the delete operations.
 extern std::int16_t curperson;
 extern std::int16_t curevent;

@@ -130,6 +130,7 @@ Result<Done> puttimeline(const Forms& forms, const std::vector<EventPicture>& pi
     }
     putpeople(forms.people);
     putevents(forms.events, pictures);
+    ++timelinestate;
     if (nations.size() - 1 > most) {
         return {std::nullopt, "a timeline holds at most " + numbertext(mostrecords) + " nations"};
     }

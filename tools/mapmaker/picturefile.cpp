@@ -155,4 +155,10 @@ std::string bmpbytes(const QImage& picture)
     return saved(picture.convertToFormat(QImage::Format_RGB32), "BMP", ordinary);
 }
 
+std::string jpegbytes(const QImage& picture)
+{
+    constexpr int fine = 82;
+    return saved(picture.convertToFormat(QImage::Format_RGB32), "JPEG", fine);
+}
+
 } // namespace brindor::mapmaker
