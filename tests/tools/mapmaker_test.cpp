@@ -1,4 +1,6 @@
 #include "mapmaker/maps.h"
+// Before the headers of Qt, which makes a word of its own of "forever".
+#include "tools/sample.h"
 
 #include "authoring/eventpictures.h"
 #include "mapmaker/fonts.h"
@@ -7,7 +9,6 @@
 #include "mapmaker/locatormap.h"
 #include "mapmaker/picturefile.h"
 #include "mapmaker/titlepicture.h"
-#include "tools/sample.h"
 
 #include <QGuiApplication>
 #include <QPainter>
