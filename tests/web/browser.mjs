@@ -56,12 +56,11 @@ export class Browser {
     }
 
     async close() {
-        if (this.process.exitCode !== null) {
-            return;
+        if (this.process.exitCode === null && this.process.signalCode === null) {
+            const gone = new Promise((done) => this.process.once("exit", done));
+            await this.call("Browser.close").catch(() => this.process.kill("SIGKILL"));
+            await gone;
         }
-        const gone = new Promise((done) => this.process.once("exit", done));
-        await this.call("Browser.close").catch(() => {});
-        await gone;
         rmSync(this.profile, { recursive: true, force: true, maxRetries: 5 });
     }
 }

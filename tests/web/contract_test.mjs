@@ -4,34 +4,36 @@ import { test } from "node:test";
 import { opengame, report, web } from "./game.mjs";
 import { alt, answer, control, front, line, named } from "./person.mjs";
 
-// Where a control was seen when its screen came up: a person may still click there when it has gone.
-async function places(page, known) {
-    const now = await page.run(() => Object.fromEntries([...document.querySelectorAll("[data-control]")].map((one) => {
+// Notes where controls are seen, near the left edge, where no bar covers a description: a person may still click there
+// when one has gone. Gives the place of the one wanted.
+const seenat = (page, wanted) => page.run((wanted) => {
+    const known = (globalThis.known ??= {});
+    for (const one of document.querySelectorAll("[data-control]")) {
         const { left, top, width, height } = one.getBoundingClientRect();
-        const screen = one.closest("section.screen").dataset.screen;
-        return [`${screen}.${one.dataset.control}`, width * height > 0 && { left, top, width, height }];
-    })));
-    Object.entries(now).forEach(([name, place]) => place && (known[name] = place));
-}
+        if (width * height > 0) {
+            const name = `${one.closest("section.screen").dataset.screen}.${one.dataset.control}`;
+            known[name] = { x: left + Math.min(6, width / 2), y: top + height / 2 };
+        }
+    }
+    return known[wanted];
+}, wanted);
 
-// Near the left edge, where no bar covers a description. For what lies below the window in front, that is moved aside.
-async function where(person, known, act) {
+// For what lies below the window in front, that is moved aside.
+async function where(person, act) {
     if (act.on !== act.screen && act.on !== "message") {
         const bar = await person.at(`${front} header`, 0.2);
         await person.dragto(bar, { ...bar, x: bar.x + 200 });
     }
-    await places(person.page, known);
-    const { left, top, width, height } = known[`${act.screen}.${act.control}`];
-    return { x: left + Math.min(6, width / 2), y: top + height / 2 };
+    return seenat(person.page, `${act.screen}.${act.control}`);
 }
 
 const key = (name) => async (person) => person.key(name);
-const click = async (person, known, act) => person.clickat(await where(person, known, act));
-const half = (name) => async (person, known, act) =>
+const click = async (person, act) => person.clickat(await where(person, act));
+const half = (name) => async (person, act) =>
     person.clickat(await person.at(`${named(act.control)} button:nth-child(${name})`));
 const answered = (which) => async (person) => person.clickat(await person.at(`${answer(which)}, ${answer("ok")}`));
 
-async function pick(person, known, act, clickCount = 1) {
+async function pick(person, act, clickCount = 1) {
     if (act.control === "combo") {
         await person.clickat(await person.at(`${named("combo")} ~ button`));
         return person.clickat(await person.at(`#popup [role=option]:nth-child(${+act.more + 1})`));
@@ -41,33 +43,33 @@ async function pick(person, known, act, clickCount = 1) {
 
 const verbs = {
     click, pick,
-    right: async (person, known, act) => person.clickat(await where(person, known, act), { button: "right" }),
-    twice: async (person, known, act) => {
-        await pick(person, known, act);
-        return pick(person, known, act, 2);
+    right: async (person, act) => person.clickat(await where(person, act), { button: "right" }),
+    twice: async (person, act) => {
+        await pick(person, act);
+        return pick(person, act, 2);
     },
-    space: async (person, known, act) => {
+    space: async (person, act) => {
         await person.tabto(named(act.control));
         await person.key(" ");
     },
     alt: async (person) => person.key("g", alt),
-    type: async (person, known, act) => {
-        await click(person, known, act);
+    type: async (person, act) => {
+        await click(person, act);
         await person.key("End", control);
         await person.type(act.more);
     },
-    press: async (person, known, act) => {
-        const at = await where(person, known, act);
+    press: async (person, act) => {
+        const at = await where(person, act);
         await person.mouse("Moved", at, { button: "none" });
         await person.mouse("Pressed", at);
     },
-    letgo: async (person, known, act) => {
-        const at = await where(person, known, act);
+    letgo: async (person, act) => {
+        const at = await where(person, act);
         await person.mouse("Moved", at, { buttons: 1 });
         await person.mouse("Released", at);
     },
     stepup: half(1), stepdown: half(2),
-    resize: async (person, known, act) => {
+    resize: async (person, act) => {
         const { at, to } = await person.page.run((what, width) => {
             const window = document.querySelector(what);
             const { right, bottom, width: seen } = window.getBoundingClientRect();
@@ -81,15 +83,15 @@ const verbs = {
         await person.mouse("Released", to);
     },
     up: key("ArrowUp"), return: key("Enter"), escape: key("Escape"),
-    close: async (person, known, act) =>
+    close: async (person, act) =>
         person.clickat(await person.at(`section.screen[data-screen="${act.screen}"] [data-close]`)),
     yes: answered("yes"), no: answered("no"),
 };
 
 test("The page breaks a promise that hosts give", async (t) => {
     const { page, person } = await opengame(t, "", {}, [`${web}contract`, `${web}site`]);
-    for (let on = await person.settled(), known = {}; on; on = await person.settled()) {
-        await places(page, known);
+    for (let on = await person.settled(); on; on = await person.settled()) {
+        await seenat(page, "");
         const act = await page.run(() => globalThis.stage.acts[0]);
         const mine = act?.on === on;
         if (!mine || act.program) {
@@ -99,7 +101,7 @@ test("The page breaks a promise that hosts give", async (t) => {
             }, mine);
         } else {
             await page.run(() => globalThis.stage.acts.shift());
-            await verbs[act.verb](person, known, act);
+            await verbs[act.verb](person, act);
         }
     }
     const told = page.said.join("\n");

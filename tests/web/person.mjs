@@ -94,9 +94,11 @@ export class Person {
     }
 
     async key(key, modifiers = 0) {
-        const code = keys[key] ?? (/^\w$/.test(key) ? key.toUpperCase().charCodeAt(0) : 0);
         const text = key === "Enter" ? "\r" : key.length > 1 || modifiers & (control | alt) ? "" : key;
-        const about = { key, code: /^[a-z]$/i.test(key) ? `Key${key.toUpperCase()}` : key, windowsVirtualKeyCode: code, modifiers };
+        const about = {
+            key, modifiers, code: /^[a-z]$/i.test(key) ? `Key${key.toUpperCase()}` : key,
+            windowsVirtualKeyCode: keys[key] ?? (/^\w$/.test(key) ? key.toUpperCase().charCodeAt(0) : 0),
+        };
         await this.input("Key", { type: text ? "keyDown" : "rawKeyDown", text, ...about });
         await this.input("Key", { type: "keyUp", ...about });
         return this.settled();

@@ -1,5 +1,6 @@
 // A server of static files on 127.0.0.1 as schools have them: compressed where the browser takes that, with a mark of
-// the content by which a browser asks again. What is in none of the folders is not there. `fetched` counts the bytes of each file that went out.
+// the content by which a browser asks again. The first of the folders that has a file gives it. `fetched` counts the
+// bytes of each file that went out.
 import { createHash } from "node:crypto";
 import { once } from "node:events";
 import { existsSync, readFileSync } from "node:fs";
