@@ -4,10 +4,10 @@ import { appendFileSync, cpSync, mkdtempSync, rmSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, test } from "node:test";
-import { fileURLToPath } from "node:url";
+import { fileURLToPath, pathToFileURL } from "node:url";
+import { Browser } from "./browser.mjs";
 import { opengame, web } from "./game.mjs";
-import { hands, named } from "./person.mjs";
-import { serve } from "./server.mjs";
+import { hands, named, Person } from "./person.mjs";
 
 const version = fileURLToPath(new URL("../../src/toolkit/web/page/version.mjs", import.meta.url));
 const folder = mkdtempSync(join(tmpdir(), "brindor-site-"));
@@ -80,4 +80,17 @@ test("A newer version is never taken, or taken though a part of it is missing", 
         versions.push(await versionof(game.page));
     }
     assert.deepEqual(versions, ["as built", "as built", "as built", "newer"]);
+});
+
+test("The one file does not play by itself", async (t) => {
+    const browser = new Browser();
+    t.after(() => browser.close());
+    const page = await browser.open(pathToFileURL(`${web}brindor.html`));
+    const person = new Person(page);
+    const { press } = hands.mouse(person);
+    assert.equal(await person.settled(), "main");
+    await press(named("cmdsetup"));
+    await press(named("cmdok"));
+    assert.match(await press(named("Command1")), /^(mchoice|qsort|qmatch)$/);
+    assert.deepEqual(page.errors, []);
 });

@@ -1,4 +1,5 @@
-// Every screen at the sizes of a phone, a tablet and a laptop: pictures to look at, and nothing of it is out of reach.
+// Every screen at the sizes of a phone, a laptop with the browser's zoom at 200 %, a tablet, and a laptop: pictures to
+// look at, and nothing of it is out of reach.
 import assert from "node:assert";
 import { mkdirSync } from "node:fs";
 import { test } from "node:test";
@@ -30,7 +31,7 @@ function outofreach() {
     return wrong;
 }
 
-for (const [width, height, touch] of [[360, 640, true], [768, 1024, true], [1280, 800, false]]) {
+for (const [width, height, touch] of [[360, 640, true], [640, 400, false], [768, 1024, true], [1280, 800, false]]) {
     test(`At ${width} pixels something is out of reach`, async (t) => {
         const { page, person } = await opengame(t, "?seed=11", { width, height, touch });
         const wrong = [];
