@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 
 namespace brindor {
@@ -195,6 +196,40 @@ std::int64_t leadingnumber(std::string_view text)
     return wholenumber(text.substr(0, end)).value_or(0);
 }
 
+namespace {
+
+// The whole text as a number, and a number as text with 15 digits. A number outside the range of a double is not read.
+#ifdef __cpp_lib_to_chars
+bool readnumber(const std::string& text, double& value)
+{
+    return std::from_chars(text.data(), text.data() + text.size(), value).ec != std::errc::result_out_of_range;
+}
+
+std::string writtennumber(double number)
+{
+    std::array<char, 64> buffer{};
+    const auto result =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::general, 15);
+    return {buffer.data(), result.ptr};
+}
+#else
+// For libraries that have these for whole numbers alone. They obey the locale, which only Qt sets.
+bool readnumber(const std::string& text, double& value)
+{
+    value = std::strtod(text.c_str(), nullptr);
+    return std::isfinite(value) && (value != 0 || text.find_first_of("123456789") >= text.find('e'));
+}
+
+std::string writtennumber(double number)
+{
+    std::array<char, 64> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), "%.15g", number);
+    return buffer.data();
+}
+#endif
+
+} // namespace
+
 double textvalue(std::string_view text)
 {
     std::string kept = withoutblanks(text);
@@ -223,10 +258,9 @@ double textvalue(std::string_view text)
             end = after;
         }
     }
-    const char* begin = kept.data() + (kept[0] == '+' ? 1 : 0);
+    kept.resize(end);
     double value = 0;
-    const auto result = std::from_chars(begin, kept.data() + end, value);
-    if (result.ec == std::errc::result_out_of_range) {
+    if (!readnumber(kept[0] == '+' ? kept.substr(1) : kept, value)) {
         // Too small a number has a negative exponent or nothing but zeros before its point.
         const std::string_view number = std::string_view(kept).substr(first, end - first);
         const bool small =
@@ -240,10 +274,7 @@ double textvalue(std::string_view text)
 
 std::string decimaltext(double number)
 {
-    std::array<char, 64> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number == 0 ? 0.0 : number,
-                                      std::chars_format::general, 15);
-    return {buffer.data(), result.ptr};
+    return writtennumber(number == 0 ? 0.0 : number);
 }
 
 std::string_view withoutmark(std::string_view text)

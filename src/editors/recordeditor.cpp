@@ -145,7 +145,6 @@ bool RecordEditor<Family>::storeentry(std::int16_t k)
     if (olddate1 != record.date1) {
         movetoplace(k);
     }
-    datachanged = 0;
     return true;
 }
 

@@ -246,7 +246,8 @@ ByType<bool> fillabletypes()
 {
     static ByType<bool> fillable;
     static std::int64_t state = -1; // of the Timeline that this is known of
-    if (state != timelinestate) {
+    constexpr int few = 2000;       // so few are looked at anew each time: it takes less than a millisecond
+    if (state != timelinestate || npeople + nevents <= few) {
         fillable = findfillable();
         state = timelinestate;
     }

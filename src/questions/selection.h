@@ -14,7 +14,7 @@ namespace brindor {
 std::int16_t getitem(std::int16_t slot);
 
 // By type: whether the loaded Timeline has five items of the type's family with pairwise different texts that are not
-// blank. Found out once for each timelinestate.
+// blank. Found out once for each timelinestate where the Timeline is large.
 ByType<bool> fillabletypes();
 
 } // namespace brindor

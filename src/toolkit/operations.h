@@ -37,9 +37,10 @@ void hide(Control& control);
 void disable(Control& control); // for good; also takes the focus off it, with no event
 void setfontsize(Control& control, double points);
 void setpicture(Picture& control, PictureRef picture);
-void showline(Combo& combo, std::int16_t line); // makes it the line last picked; raises nothing and leaves the text
-void startdrag(Button& bar);                    // picks the bar up; a bar picked up before is put down
-void enddrag(Button& bar);                      // nothing where this bar is not the one picked up
+// Makes a line the one last picked; raises nothing and leaves the text. Of a line outside the list a host shows none.
+void showline(Combo& combo, std::int16_t line);
+void startdrag(Button& bar);           // picks the bar up; a bar picked up before is put down
+void enddrag(Button& bar);             // nothing where this bar is not the one picked up
 const Label* rowof(const Button& bar); // the row that a bar stands on since it was dropped there; none elsewhere
 
 // ---- screens

@@ -18,7 +18,7 @@ protected:
     tests::ScratchFolder folder;
 };
 
-TEST_F(Files, OnlyRegularFilesAreOpened)
+TEST_F(Files, OnlyRegularFilesAreOpenedAndReadUpToALimit)
 {
     fs::create_directory("folder");
     ASSERT_EQ(::mkfifo("pipe", 0600), 0);
@@ -31,10 +31,6 @@ TEST_F(Files, OnlyRegularFilesAreOpened)
         EXPECT_FALSE(isregularfile(name)) << name;
     }
     EXPECT_EQ(readwhole("missing", 100).reason, "No such file or directory");
-}
-
-TEST_F(Files, ReadingStopsAtTheLimit)
-{
     tests::writefile("a", std::string(100, 'x'));
     EXPECT_EQ(*readwhole("a", 100).value, std::string(100, 'x'));
     EXPECT_EQ(readwhole("a", 99).reason, "File too large");

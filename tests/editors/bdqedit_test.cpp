@@ -1,8 +1,6 @@
 #include "editors/bdqedit.h"
 
 #include "support/programtest.h"
-#include "support/story.h"
-#include "support/timelines.h"
 #include "timeline/usedmarks.h"
 #include "timeline/writer.h"
 
@@ -10,76 +8,45 @@ namespace brindor {
 
 using namespace toolkit;
 
+class BdqeditTest : public tests::ProgramTest {};
+
 // A file of two people and two events for each period but "Classic"; "Modern" is cut in its last section.
-class BdqeditTest : public tests::ProgramTest {
-protected:
-    BdqeditTest()
-    {
-        tests::setnumbered(2, 2);
-        for (const std::string period : {"Ancient", "Medieval", "Modern"}) {
-            people[0].desc1 = period;
-            const std::string text = timelinetext();
-            tests::writefile(period + ".bd3", text.substr(0, text.size() - (period == "Modern" ? 5 : 0)));
-        }
-        host.persons["PEntry"] = host.persons["eEntry"] = [this](Screen& screen) {
-            seen += act(host, screen, "cmdNext; ?", [&] { return tests::find<Combo>(screen, "Combo1").text; });
-            userclose(screen);
-        };
-    }
-
-    // "2 Medieval.bd3 Medieval 1": the period chosen, the file asked for, whose records are in memory, the cursor.
-    std::string visit(const std::string& story)
-    {
-        std::string transcript;
-        host.persons["bdqedit"] = [&](Screen& screen) {
-            const auto& s = static_cast<Bdqedit&>(screen);
-            const std::string opened = tests::said(host);
-            transcript = opened + act(host, screen, story, [&] {
-                             std::string text;
-                             for (std::size_t i = 0; i < s.option1.size(); ++i) {
-                                 text += s.option1[i].text + (s.option1[i].selected ? "* " : " ");
-                             }
-                             return text + curfile + ' ' + people[0].desc1 + ' ' + std::to_string(curperson);
-                         });
-            EXPECT_EQ(s.caption, " Choose ");
-            EXPECT_EQ(s.left, (host.display.width - s.width) * 0.5);
-            EXPECT_TRUE(userescape(screen));
-        };
-        showchooser([this] { seen += "Stats\n"; });
-        return transcript;
-    }
-
-    std::string seen; // in the editors and in the statistics
-};
-
-TEST_F(BdqeditTest, OpeningLoadsThePeriodInForceAfresh)
+TEST_F(BdqeditTest, OpeningAndEachPeriodLoadAfreshFromGoodMissingAndBadFiles)
 {
-    for (const auto period : std::initializer_list<std::int16_t>{3, 2, 0}) {
-        curperiod = period;
-        curperson = 1;
+    tests::setnumbered(2, 2);
+    for (const std::string period : {"Ancient", "Medieval", "Modern"}) {
+        people[0].desc1 = period;
+        const std::string text = timelinetext();
+        tests::writefile(period + ".bd3", text.substr(0, text.size() - (period == "Modern" ? 5 : 0)));
+    }
+    host.persons["PEntry"] = host.persons["eEntry"] = [this](Screen& screen) { act(host, screen, "cmdNext; esc"); };
+    // "2 Medieval.bd3 Medieval 1 0": the period chosen, the file, whose records are in memory, the cursor, a mark.
+    const auto tell = [this](const std::string& story) {
         usedmarks.assign(usedmarks.size(), 9);
-        visit("");
-        EXPECT_EQ(curperiod, period);
-        EXPECT_EQ(people[0].desc1, periodnames[static_cast<std::size_t>(period)]);
-        EXPECT_EQ(usedmarks, std::vector<std::int16_t>(5, 0));
-        EXPECT_EQ(curperson, period == 3 ? 1 : 0); // a load that fails at the end leaves the cursors
-    }
-}
-
-TEST_F(BdqeditTest, AnotherPeriodWithGoodMissingAndBadFiles)
-{
-    EXPECT_EQ(
-        visit("?; cmdPeople; cmdEvents; Command2; cmdPeople; Option1(2); ?; cmdPeople; Option1(1); ?; Option1(3); ?"),
-        "Ancient* Classic Medieval Modern Ancient.bd3 Ancient 0\n"
-        "Ancient Classic Medieval* Modern Medieval.bd3 Medieval 0\n"
-        "Classic.bd3 cannot be opened: No such file or directory. Put the file into the program's folder, or "
-        "choose another period. 2 Person 1 2 Event 1\n"
-        "Ancient Classic* Medieval Modern Classic.bd3 Medieval 1\n" // the old timeline stays in memory
+        const auto open = [this] { showchooser([this] { host.shown.push_back("statistics"); }); };
+        return visit("bdqedit", open, story, [](Screen& screen) {
+            std::string text;
+            for (const OptionButton& option : static_cast<Bdqedit&>(screen).option1) {
+                text += option.text + (option.selected ? "* " : " ");
+            }
+            return text + std::to_string(curperiod) + ' ' + curfile + ' ' + people[0].desc1 + ' ' +
+                   std::to_string(curperson) + ' ' + std::to_string(usedmarks[0]);
+        });
+    };
+    const std::string broken =
         "Modern.bd3, line 75: the file ends here, but the weight of an entry of the nations should follow. "
-        "Complete the file and choose the period again. 2 Person 1 2 Event 1\n"
-        "Ancient Classic Medieval Modern* Modern.bd3 Modern 1\n"); // what was read stays
-    EXPECT_EQ(seen, "Person 1\nEvent 1\nStats\nLast in list\nPerson 1\nPerson 1\n");
-    EXPECT_EQ(curperiod, 3);
+        "Complete the file and choose the period again. 2 Person 1 2 Event 1\n"; // what was read stays
+    curperson = 1;
+    EXPECT_EQ(tell("?; cmdPeople; cmdEvents; Command2; Option1(2); ?; cmdPeople; Option1(1); ?; Option1(3); esc"),
+              "Ancient* Classic Medieval Modern 0 Ancient.bd3 Ancient 0 0\n"
+              "Ancient Classic Medieval* Modern 2 Medieval.bd3 Medieval 0 0\n"
+              "Classic.bd3 cannot be opened: No such file or directory. Put the file into the program's folder, or "
+              "choose another period. 2 Person 1 2 Event 1\n"
+              "Ancient Classic* Medieval Modern 1 Classic.bd3 Medieval 1 0\n" + // the old timeline stays in memory
+                  broken +
+                  "*");
+    EXPECT_EQ(host.shown, (std::vector<std::string>{"bdqedit", "PEntry", "eEntry", "statistics", "PEntry"}));
+    EXPECT_EQ(tell("?"), broken + "Ancient Classic Medieval Modern* 3 Modern.bd3 Modern 1 0\n");
 }
 
 } // namespace brindor

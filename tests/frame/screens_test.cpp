@@ -7,7 +7,6 @@
 #include "setup/curstats.h"
 #include "setup/setup.h"
 #include "support/gametest.h"
-#include "support/timelines.h"
 
 namespace brindor {
 
@@ -16,18 +15,20 @@ using namespace toolkit;
 // What all screens have in common.
 class Screens : public tests::GameTest {
 protected:
-    // The caption, then of each control what else it says: its letter, its tip, what assistive tools tell.
+    // The caption, the letters of the buttons ("*" behind that of Return), and of each new tip and of what assistive
+    // tools are told the first word; "=" for a label that names another control.
     static std::string describe(const Screen& screen)
     {
-        std::string text = screen.name + " \"" + screen.caption + '"' + (screen.escapecloses ? " esc" : "");
+        std::string text = screen.name + " \"" + screen.caption + "\" " + (screen.escapecloses ? "esc " : "");
         std::string tip;
         for (const Control* control : screen.controls) {
             if (control->kind == Kind::button && static_cast<const Button*>(control)->accesskey != 0) {
-                text += ' ' + control->text + ':' + static_cast<const Button*>(control)->accesskey +
-                        (control == screen.defaultbutton ? "*" : "");
+                text += static_cast<const Button*>(control)->accesskey;
+                text += control == screen.defaultbutton ? "*" : "";
             }
-            text += (control->tooltip == tip ? "" : " {" + control->tooltip + '}') +
-                    (control->says.empty() ? "" : " <" + control->says + '>');
+            text += (control->tooltip == tip ? "" : '{' + tests::split(control->tooltip + ' ', " ").front() + '}') +
+                    (control->says.empty() ? "" : '<' + tests::split(control->says, " ").front() + '>');
+            text += control->kind == Kind::label && static_cast<const Label*>(control)->names != nullptr ? "=" : "";
             tip = control->tooltip;
         }
         return text + '\n';
@@ -39,9 +40,9 @@ protected:
         const Size frame = screen.name == "main" ? framesize() : Size{};
         for (const Control* one : screen.controls) {
             const Place& a = one->place;
-            const double width = one->container != nullptr ? one->container->place.width : screen.width - frame.width;
-            const double height =
-                one->container != nullptr ? one->container->place.height : screen.height - frame.height;
+            const bool inside = one->container != nullptr;
+            const double width = inside ? one->container->place.width : screen.width - frame.width;
+            const double height = inside ? one->container->place.height : screen.height - frame.height;
             EXPECT_TRUE(a.left >= 0 && a.top >= 0 && a.left + a.width <= width && a.top + a.height <= height)
                 << screen.name << ' ' << one->name;
             for (const Control* other : screen.controls) {
@@ -63,8 +64,10 @@ TEST_F(Screens, TellTheirLettersAndTipsAndNoControlLiesOnAnother)
     host.pictures["a.png"] = 0;
     for (const char* name : {"main", "setup", "bdqedit", "curStats", "PEntry", "eEntry", "ImgDisp", "mchoice", "qsort",
                              "qmatch", "showscor"}) {
-        host.persons[name] = [&text](Screen& screen) {
+        host.persons[name] = [&](Screen& screen) {
             text += describe(screen);
+            EXPECT_TRUE(screen.width <= 1024 * 15 && screen.height <= 700 * 15) << screen.name;
+            EXPECT_EQ(screen.left * 2 + screen.width, host.display.width) << screen.name;
             expectapart(screen);
             if (screen.name == "qsort") {
                 userclick(tests::find<Button>(screen, "Command1"));
@@ -88,31 +91,20 @@ TEST_F(Screens, TellTheirLettersAndTipsAndNoControlLiesOnAnother)
     showchooser([] {});
     MainScreen screen(folder.path().string());
     showmodal(screen);
-    EXPECT_EQ(
-        text,
-        "mchoice \"Quorvel Mind Tourney\" help:h skip:s\n"
-        "qsort \"Quorvel Mind Tourney\" <Items to sort> Help:H Done:D\n"
-        "showscor \"Quorvel Mind Tourney Scores\" esc <Result> ok:o* {Click here when  ready to proceed} {}\n"
-        "qmatch \"Match 'em\" {Click and drag this item to its description, below} {Drag one of the colored bars "
-        "to this description} {} Help:H Skip:S {Click here when you are ready to proceed} Done:D\n"
-        "PEntry \"People Entry\" esc <Name> <Description> <Date 1> <Type of Date 1> <Date 2> <Type of Date 2> "
-        "<Faction> <Occupation> Prev:P Next:N "
-        "New:w Delete:D OK:O*\n"
-        "eEntry \"Events Entry\" esc <Name> <Description> <Date 1> <Type of Date 1> <Date 2> <Type of Date 2> <Group> "
-        "<Nation 1> <Nation 2> "
-        "<Picture> <Picture width> <Picture height> {Click to see the picture in a window of its own} <Picture of "
-        "the event> Prev:P {} Next:N New:w Delete:D OK:O*\n"
-        "ImgDisp \"\" esc <Picture>\ncurStats \"Current Timeline Statistics\" esc OK:O*\n"
-        "setup \"Brindor History Trivia Game Setup\" esc <Number of questions per game> <Number of questions per game> "
-        "{Colored "
-        "items are selected} <Kinds of question> {} "
-        "{No logging takes place} {All questions and incorrect answers are sent to "
-        "log file} {Only wrong answers are sent to log file} {} <Minimum> <Minimum> <Maximum> <Maximum> View/Select:V "
-        "{Change item "
-        "data} OK:O* {Click here to continue}\n"
-        "bdqedit \" Choose \" esc Show People:P Show Events:E Stats:S OK:O*\n"
-        "main \"Brindor History Trivia Game\" Play:P* {Play the game} Setup:S {Conditions for the game} About:A "
-        "{} Catalog:C {View Quorvel Software Catalog} Quit:Q {}\n");
+    EXPECT_EQ(text, "mchoice \"Quorvel Mind Tourney\" hs\n"
+                    "qsort \"Quorvel Mind Tourney\" =<Items>HD\n"
+                    "showscor \"Quorvel Mind Tourney Scores\" esc =<Result>o*{Click}{}\n"
+                    "qmatch \"Match 'em\" {Click}{Drag}{}HS{Click}D\n"
+                    "PEntry \"People Entry\" esc =<Name>=<Description>=<Date><Type>=<Date><Type>"
+                    "=<Faction>=<Occupation>PNwDO*\n"
+                    "eEntry \"Events Entry\" esc =<Name>=<Description>=<Date><Type>=<Date><Type>"
+                    "=<Group>=<Nation>=<Nation>=<Picture>=<Picture><Picture>{Click}<Picture>P{}NwDO*\n"
+                    "ImgDisp \"\" esc <Picture>\n"
+                    "curStats \"Current Timeline Statistics\" esc O*\n"
+                    "setup \"Brindor History Trivia Game Setup\" esc =<Number><Number>={Colored}<Kinds>{}"
+                    "{No}{All}{Only}{}=<Minimum><Minimum>=<Maximum><Maximum>V{Change}O*{Click}\n"
+                    "bdqedit \" Choose \" esc PESO*\n"
+                    "main \"Brindor History Trivia Game\" P*{Play}S{Conditions}A{}C{View}Q{}\n");
 }
 
 } // namespace brindor

@@ -3,7 +3,6 @@
 #include "questions/types.h"
 #include "support/allocations.h"
 #include "support/programtest.h"
-#include "support/timelines.h"
 #include "timeline/usedmarks.h"
 
 #include <cstdint>

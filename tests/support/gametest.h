@@ -1,5 +1,10 @@
 #pragma once
 
+#include "frame/services/failures.h"
+#include "frame/services/log.h"
+#include "frame/services/score.h"
+#include "frame/services/settings.h"
+#include "questions/question.h"
 #include "support/programtest.h"
 
 #include <string>
@@ -10,9 +15,17 @@ namespace brindor::tests {
 // empty log.
 class GameTest : public ProgramTest {
 protected:
-    GameTest();
+    GameTest()
+    {
+        forgetfailures();
+        readsettings(); // an empty folder gives the defaults
+        filltables();
+        players.fill({});
+        curplayer = 0;
+        resetlog();
+    }
 
-    static std::string log(); // what stands in the question log
+    static std::string log() { return contentof("bdqquiz.log"); } // what stands in the question log
 };
 
 } // namespace brindor::tests

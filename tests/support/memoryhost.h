@@ -4,9 +4,12 @@
 #include "toolkit/operations.h"
 #include "toolkit/user.h"
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <functional>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -31,24 +34,49 @@ public:
     std::vector<toolkit::Message> messages;
     std::vector<std::string> shown;      // names of the screens, in the order in which they were shown
     std::map<std::string, int> pictures; // 0 for a picture that loads, else its error number
-    std::vector<std::string> picturesasked;
     std::vector<std::string> viewed;
     toolkit::Size display{1024 * 15, 768 * 15};
     toolkit::Size frame{30, 375};
     bool wantsquit = false;
-    int updates = 0;
 
     void create(toolkit::Screen&) override {}
     void show(toolkit::Screen& screen) override { shown.push_back(screen.name); }
-    void wait(toolkit::Screen& screen) override;
+    void wait(toolkit::Screen& screen) override
+    {
+        for (int acts = 0; !screen.closed && !wantsquit; ++acts) {
+            const auto person = persons.find(screen.name);
+            if (person == persons.end() || acts == patience) {
+                ADD_FAILURE() << "nobody closes the screen " << screen.name;
+                return closescreen(screen);
+            }
+            person->second(screen);
+        }
+    }
     void drop(toolkit::Screen&) override {}
-    void update(toolkit::Control&) override { ++updates; }
-    void update(toolkit::Screen&) override { ++updates; }
+    void update(toolkit::Control&) override {}
+    void update(toolkit::Screen&) override {}
     void focus(toolkit::Control&) override {}
-    bool message(const toolkit::Message& message) override;
+    bool message(const toolkit::Message& message) override
+    {
+        messages.push_back(message);
+        if (whilemessage) {
+            whilemessage(message);
+        }
+        const bool answer = !answers.empty() && answers.front();
+        if (message.question && !answers.empty()) {
+            answers.pop_front();
+        }
+        return answer || !message.question;
+    }
     toolkit::Size displaysize() override { return display; }
     toolkit::Size framesize() override { return frame; }
-    toolkit::LoadedPicture loadpicture(const std::string& file) override;
+    toolkit::LoadedPicture loadpicture(const std::string& file) override
+    {
+        const auto known = pictures.find(file);
+        const int error = known == pictures.end() ? 53 : known->second;
+        const toolkit::PictureRef picture(new toolkit::PictureData{std::make_shared<std::string>(file), 640, 480});
+        return {error == 0 ? picture : nullptr, error};
+    }
     void startviewer(const std::string& file) override { viewed.push_back(file); }
     bool quitting() override { return wantsquit; }
 
@@ -56,13 +84,23 @@ private:
     toolkit::Host* before_;
 };
 
-// The control of a name and kind; throws where the screen has none.
-toolkit::Control& controlof(toolkit::Screen& screen, const std::string& name, toolkit::Kind kind);
+// The control of a name; throws where the screen has none.
+inline toolkit::Control& controlof(const toolkit::Screen& screen, const std::string& name)
+{
+    for (toolkit::Control* control : screen.controls) {
+        if (control->name == name) {
+            return *control;
+        }
+    }
+    throw std::out_of_range(screen.name + " has no control " + name);
+}
 
+// The same, for a caller who knows its kind; throws where it is another.
 template <class Control>
 Control& find(toolkit::Screen& screen, const std::string& name)
 {
-    return static_cast<Control&>(controlof(screen, name, Control().kind));
+    toolkit::Control& control = controlof(screen, name);
+    return control.kind == Control().kind ? static_cast<Control&>(control) : throw std::invalid_argument(name);
 }
 
 } // namespace brindor::tests

@@ -3,7 +3,6 @@
 #include "questions/question.h"
 #include "quiz/showscor.h"
 #include "support/gametest.h"
-#include "support/timelines.h"
 #include "timeline/usedmarks.h"
 
 #include <string>

@@ -8,19 +8,18 @@
 #include "questions/texts.h"
 #include "questions/types.h"
 #include "support/scratchfolder.h"
+#include "support/story.h"
 #include "support/timelines.h"
 #include "timeline/usedmarks.h"
 #include "timeline/writer.h"
-#include "toolkit/operations.h"
 #include "toolkit/user.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
+#include <map>
 #include <numeric>
 #include <set>
 #include <utility>
@@ -29,24 +28,14 @@ namespace brindor::tests {
 
 using namespace toolkit;
 
-namespace {
-
-bool usable(const Control& control)
+RandomPlayer::RandomPlayer(int questions, double slowest) : clicks(click), slowest_(slowest)
 {
-    return control.visible && control.enabled &&
-           (control.container == nullptr || (control.container->visible && control.container->enabled));
-}
-
-bool isquiz(const Screen& screen)
-{
-    return screen.name == "mchoice" || screen.name == "qsort" || screen.name == "qmatch";
-}
-
-} // namespace
-
-RandomPlayer::RandomPlayer(std::uint64_t seed, int questions, double slowest)
-    : random_(seed), questions_(questions), slowest_(slowest)
-{
+    const char* seed = std::getenv("BRINDOR_SEED");
+    const char* wanted = std::getenv("BRINDOR_QUESTIONS");
+    const std::uint64_t drawnseed = seed != nullptr ? std::strtoull(seed, nullptr, 10) : std::random_device()();
+    std::cout << "BRINDOR_SEED=" << drawnseed << '\n';
+    random_.seed(drawnseed);
+    questions_ = wanted != nullptr ? std::atoi(wanted) : questions;
 }
 
 std::int64_t RandomPlayer::drawn(std::int64_t below)
@@ -56,18 +45,14 @@ std::int64_t RandomPlayer::drawn(std::int64_t below)
 
 bool RandomPlayer::answer()
 {
-    last_.push_back("answers");
+    last_ += ", answers";
     return drawn(2) == 0;
 }
 
 void RandomPlayer::require(bool condition, const std::string& what)
 {
     if (!condition) {
-        std::string text;
-        for (const std::string& step : last_) {
-            text += "\n  " + step;
-        }
-        ADD_FAILURE() << what << " after step " << steps_ << ", question " << asked_ << ":" << text;
+        ADD_FAILURE() << what << " after step " << steps_ << ", question " << asked_ << ", with" << last_;
     }
 }
 
@@ -79,24 +64,11 @@ void RandomPlayer::act(Screen& screen)
     }
     ++steps_;
     look(screen);
-    if (last_.size() > 12) {
-        last_.erase(last_.begin(), last_.begin() + 6);
-    }
+    last_.erase(0, last_.size() > 600 ? 300 : 0);
     before_ = std::clock();
-    done() ? leave(screen) : dosomething(screen);
-}
-
-void RandomPlayer::leave(Screen& screen)
-{
-    last_.push_back("leaves " + screen.name);
-    userclose(screen);
-}
-
-void RandomPlayer::dosomething(Screen& screen)
-{
-    const std::int64_t what = drawn(40);
-    last_.push_back(screen.name + ' ' + std::to_string(what));
-    if (what == 0 && screen.name != "main") {
+    const std::int64_t what = done() ? 0 : drawn(40);
+    last_ += ", " + screen.name + ' ' + std::to_string(what);
+    if (what == 0 && (done() || screen.name != "main")) {
         userclose(screen);
     } else if (what == 1) {
         userescape(screen);
@@ -110,70 +82,29 @@ void RandomPlayer::dosomething(Screen& screen)
         userleave(*screen.focus);
     } else if (what == 6 && screen.name == "bdqedit") {
         viewonly = index16(drawn(2)); // both modes of the editors
-    } else {
-        std::vector<Control*> usablecontrols;
-        for (Control* control : screen.controls) {
-            const bool ends = control->name == "cmdquit";
-            if (usable(*control) && !ends) {
-                usablecontrols.push_back(control);
-            }
-        }
-        if (!usablecontrols.empty()) {
-            Control& control =
-                *usablecontrols[static_cast<std::size_t>(drawn(static_cast<std::int64_t>(usablecontrols.size())))];
-            last_.back() += ' ' + control.name;
-            use(control);
-        }
+    } else if (Control& control = *drawnof(screen.controls); control.name != "cmdquit") {
+        last_ += ' ' + control.name;
+        use(control);
     }
 }
 
-std::string RandomPlayer::typed()
-{
-    static const std::array<std::string, 14> texts = {"",      " ",        "0",        "7",          "-44",
-                                                      "32767", "-32769",   "1e9",      "ca. 12",     "Person 3",
-                                                      "zz",    "\r\n\r\n", "\xff\xfe", "a\r\nb\r\nc"};
-    return texts[static_cast<std::size_t>(drawn(static_cast<std::int64_t>(texts.size())))];
-}
-
+// What its kind knows, also where it is hidden or disabled.
 void RandomPlayer::use(Control& control)
 {
-    const auto line = [this](std::size_t count) { return index16(drawn(static_cast<std::int64_t>(count) + 2) - 1); };
-    switch (control.kind) {
-    case Kind::label:
-        drawn(2) == 0 ? userclick(static_cast<Label&>(control)) : userdrop(static_cast<Label&>(control));
-        break;
-    case Kind::button:
-        if (static_cast<Button&>(control).bar && drawn(2) == 0) {
-            userpress(static_cast<Button&>(control));
-        } else {
-            userclick(static_cast<Button&>(control));
-        }
-        break;
-    case Kind::optionbutton:
-        drawn(2) == 0 ? userclick(static_cast<OptionButton&>(control)) : userpress(static_cast<OptionButton&>(control));
-        break;
-    case Kind::textbox:
-        drawn(3) == 0 ? userfocus(control) : usertype(static_cast<TextBox&>(control), typed());
-        break;
-    case Kind::list:
-        userpick(static_cast<List&>(control), line(static_cast<List&>(control).lines.size()));
-        break;
-    case Kind::combo:
-        if (drawn(3) == 0) {
-            usertype(static_cast<Combo&>(control), typed());
-        } else {
-            userpick(static_cast<Combo&>(control), line(static_cast<Combo&>(control).lines.size()));
-        }
-        break;
-    case Kind::picture:
-        userclick(static_cast<Picture&>(control));
-        break;
-    case Kind::spin:
-        userstep(static_cast<Spin&>(control), drawn(2) == 0 ? 1 : -1);
-        break;
-    case Kind::frame:
-        userfocus(control);
-        break;
+    static const std::vector<std::string> texts = {"",      " ",        "0",        "7",          "-44",
+                                                   "32767", "-32769",   "1e9",      "ca. 12",     "Person 3",
+                                                   "zz",    "\r\n\r\n", "\xff\xfe", "a\r\nb\r\nc"};
+    const bool other = drawn(2) == 0;
+    if (control.kind == Kind::spin) {
+        userstep(static_cast<Spin&>(control), other ? 1 : -1);
+    } else if (control.kind == Kind::label && other) {
+        userdrop(static_cast<Label&>(control));
+    } else if (control.kind == Kind::list || (control.kind == Kind::combo && other)) {
+        const bool list = control.kind == Kind::list;
+        const auto& lines = list ? static_cast<List&>(control).lines : static_cast<Combo&>(control).lines;
+        pick(control, index16(drawn(static_cast<std::int64_t>(lines.size()) + 2) - 1));
+    } else if (other || !(type(control, drawnof(texts)) || press(control))) {
+        clicks(control);
     }
 }
 
@@ -181,8 +112,9 @@ void RandomPlayer::look(const Screen& screen)
 {
     require(std::all_of(usedmarks.begin(), usedmarks.end(), [](std::int16_t mark) { return mark >= 0; }),
             "a mark below 0");
-    if (isquiz(screen)) {
-        lookatquestion(screen);
+    static const std::map<std::string, int> quizzes = {{"mchoice", 5}, {"qsort", 20}, {"qmatch", 25}};
+    if (const auto quiz = quizzes.find(screen.name); quiz != quizzes.end()) {
+        lookatquestion(screen, quiz->second);
     } else if (screen.name == "showscor") {
         lookatscore();
     } else {
@@ -208,7 +140,7 @@ void RandomPlayer::look(const Screen& screen)
 
 // Once a question, which is told by the marks that its draw has raised: five different items of the right family, with
 // different texts that are not blank.
-void RandomPlayer::lookatquestion(const Screen& screen)
+void RandomPlayer::lookatquestion(const Screen& screen, int worth)
 {
     const std::int64_t marks = std::accumulate(usedmarks.begin(), usedmarks.end(), std::int64_t{0});
     if (seen_ == screen.name && marks == marks_) {
@@ -218,7 +150,7 @@ void RandomPlayer::lookatquestion(const Screen& screen)
     marks_ = marks;
     const std::set<std::int16_t> items(chosen.begin(), chosen.begin() + 5);
     ++asked_;
-    worth_ = screen.name == "mchoice" ? 5 : screen.name == "qsort" ? 20 : 25;
+    worth_ = worth;
     const bool ofpeople = kindof(qtype).of == ItemKind::person;
     std::set<std::string> texts;
     for (const std::int16_t item : items) {
@@ -227,8 +159,7 @@ void RandomPlayer::lookatquestion(const Screen& screen)
     }
     require(items.size() == 5 && texts.size() == 5 && *texts.begin() > " ", "the five items are not good");
     if (players[0].asked == 0) {
-        right_ = 0;
-        possible_ = 0;
+        right_ = possible_ = 0;
     }
 }
 
@@ -249,17 +180,13 @@ void RandomPlayer::lookatscore()
 // and nothing while it is off.
 void RandomPlayer::lookatlog()
 {
-    std::ifstream log("bdqquiz.log");
-    log.seekg(logged_);
-    int headers = 0;
-    int lines = 0;
-    for (std::string line; std::getline(log, line); ++lines) {
-        logged_ += static_cast<std::int64_t>(line.size()) + 1;
-        for (const char* header : {"Multiple Choice\r", "Match ", "Items to sort by "}) {
-            headers += line.starts_with(header) ? 1 : 0;
-        }
-    }
-    require(logstatus != 0 || lines == 0, "a line in a log that is off");
+    const std::string log = contentof("bdqquiz.log");
+    const std::vector<std::string> lines = split(log.substr(logged_), "\n");
+    logged_ = log.size();
+    const auto headers = std::count_if(lines.begin(), lines.end(), [](const std::string& line) {
+        return line == "Multiple Choice\r" || line.starts_with("Match ") || line.starts_with("Items to sort by ");
+    });
+    require(logstatus != 0 || lines.empty(), "a line in a log that is off");
     require(logstatus == 1 ? headers == asked_ - askedbefore_ : headers == 0,
             "headers that the log's level does not allow");
     askedbefore_ = asked_;
@@ -288,20 +215,6 @@ void RandomPlayer::writetimelines()
     nations = catalogue({});
     nnations = 0;
     writefile("Medieval.bd3", timelinetext());
-}
-
-std::uint64_t seedwanted()
-{
-    const char* given = std::getenv("BRINDOR_SEED");
-    const std::uint64_t seed = given != nullptr ? std::strtoull(given, nullptr, 10) : std::random_device()();
-    std::cout << "BRINDOR_SEED=" << seed << '\n';
-    return seed;
-}
-
-int questionswanted(int otherwise)
-{
-    const char* given = std::getenv("BRINDOR_QUESTIONS");
-    return given != nullptr ? std::atoi(given) : otherwise;
 }
 
 } // namespace brindor::tests

@@ -4,7 +4,6 @@
 #include "base/text.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace brindor::tests {
 
@@ -12,30 +11,11 @@ using namespace toolkit;
 
 namespace {
 
-bool click(Control& control)
+// Does the act where the control is of one of these kinds.
+template <class... Kinds>
+bool ifoneof(Control& control, const auto& act)
 {
-    switch (control.kind) {
-    case Kind::button:
-        return userclick(static_cast<Button&>(control));
-    case Kind::optionbutton:
-        return userclick(static_cast<OptionButton&>(control));
-    case Kind::picture:
-        return userclick(static_cast<Picture&>(control));
-    default:
-        return userfocus(control);
-    }
-}
-
-bool type(Control& control, const std::string& text)
-{
-    return control.kind == Kind::combo ? usertype(static_cast<Combo&>(control), text)
-                                       : usertype(static_cast<TextBox&>(control), text);
-}
-
-bool pick(Control& control, std::int16_t line)
-{
-    return control.kind == Kind::combo ? userpick(static_cast<Combo&>(control), line)
-                                       : userpick(static_cast<List&>(control), line);
+    return ((control.kind == Kinds().kind && act(static_cast<Kinds&>(control))) || ...);
 }
 
 bool dostep(Screen& screen, const std::string& step)
@@ -44,26 +24,43 @@ bool dostep(Screen& screen, const std::string& step)
         return step == "esc" ? userescape(screen) : userreturn(screen);
     }
     const std::size_t end = std::min(step.find_first_of("=#+-"), step.size());
-    const auto named = std::find_if(screen.controls.begin(), screen.controls.end(),
-                                    [&](const Control* control) { return control->name == step.substr(0, end); });
-    if (named == screen.controls.end()) {
-        throw std::out_of_range(screen.name + " cannot " + step);
-    }
-    if (end == step.size()) {
-        return click(**named);
-    }
-    const std::string what = step.substr(end + 1);
+    Control& control = controlof(screen, step.substr(0, end));
+    const std::string what = step.substr(std::min(end + 1, step.size()));
     switch (step[end]) {
     case '=':
-        return type(**named, what);
+        return type(control, what);
     case '#':
-        return pick(**named, index16(leadingnumber(what)));
+        return pick(control, index16(leadingnumber(what)));
+    case '+':
+    case '-':
+        return userstep(static_cast<Spin&>(control), step[end] == '+' ? 1 : -1);
     default:
-        return userstep(static_cast<Spin&>(**named), step[end] == '+' ? 1 : -1);
+        return click(control);
     }
 }
 
 } // namespace
+
+bool click(Control& control)
+{
+    return ifoneof<Button, OptionButton, Picture, Label>(control, [](auto& of) { return userclick(of); }) ||
+           ifoneof<TextBox, List, Combo, Spin, Frame>(control, userfocus);
+}
+
+bool press(Control& control)
+{
+    return ifoneof<Button, OptionButton>(control, [](auto& of) { return userpress(of); });
+}
+
+bool type(Control& control, const std::string& text)
+{
+    return ifoneof<TextBox, Combo>(control, [&](auto& of) { return usertype(of, text); });
+}
+
+bool pick(Control& control, std::int16_t line)
+{
+    return ifoneof<List, Combo>(control, [&](auto& of) { return userpick(of, line); });
+}
 
 std::string said(MemoryHost& host)
 {

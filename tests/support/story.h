@@ -2,14 +2,22 @@
 
 #include "support/memoryhost.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
 
 namespace brindor::tests {
 
+// What a person does to a control of whatever kind, through toolkit/user.h. Gives false where it was refused, and for a
+// kind that knows no such thing; a click on a field moves the focus there.
+bool click(toolkit::Control& control);
+bool press(toolkit::Control& control);
+bool type(toolkit::Control& control, const std::string& text); // the text as it stands after the typing
+bool pick(toolkit::Control& control, std::int16_t line);
+
 // Does on a screen what a story tells, step by step, through toolkit/user.h. The steps stand between "; ":
-//   cmdNext        click on a button, an option or a picture, or move the focus to any other control
+//   cmdNext        click on it
 //   date1=1066     type into a field
 //   Combo1#2       pick line 2 of a list
 //   updown1+ -     step a spin up or down

@@ -3,25 +3,10 @@
 #include "base/numbers.h"
 #include "timeline/usedmarks.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace brindor::tests {
-
-namespace {
-
-template <class Record>
-Record item(const std::string& name, const Dates& dates, const std::string& desc1, const std::string& desc2)
-{
-    Record record;
-    static_cast<Dates&>(record) = dates;
-    record.name = name;
-    record.desc1 = desc1;
-    record.desc2 = desc2;
-    record.live = 1;
-    return record;
-}
-
-} // namespace
 
 Catalogue catalogue(const std::vector<std::string>& names)
 {
@@ -62,25 +47,18 @@ void setcatalogues(const std::vector<std::string>& factionnames, const std::vect
 PersonRec person(const std::string& name, Dates dates, const std::string& desc1, const std::string& desc2,
                  std::int16_t faction, std::int16_t occupation)
 {
-    PersonRec record = item<PersonRec>(name, dates, desc1, desc2);
-    record.faction = faction;
-    record.occupation = occupation;
-    return record;
+    return {{dates, name, desc1, desc2, "", "", 0, 0, 1}, faction, occupation};
 }
 
 EventRec event(const std::string& name, Dates dates, const std::string& desc1, const std::string& desc2,
                std::int16_t group, std::int16_t nation1, std::int16_t nation2)
 {
-    EventRec record = item<EventRec>(name, dates, desc1, desc2);
-    record.group = group;
-    record.nation1 = nation1;
-    record.nation2 = nation2;
-    return record;
+    return {{dates, name, desc1, desc2, "", "", 0, 0, 1}, group, nation1, nation2};
 }
 
 Dates year(std::int16_t date)
 {
-    return {date, date, known, known};
+    return years(date, date);
 }
 
 Dates years(std::int16_t date1, std::int16_t date2, std::int16_t kind1, std::int16_t kind2)
@@ -94,19 +72,19 @@ void setnumbered(int peoplewanted, int eventswanted)
     std::vector<EventRec> someevents;
     std::vector<std::string> factionnames;
     std::vector<std::string> groupnames;
-    for (int i = 0; i < peoplewanted; ++i) {
+    for (std::int16_t i = 0; i < std::max(peoplewanted, eventswanted); ++i) {
         const std::string number = std::to_string(i);
-        const std::int16_t index = index16(i + 1);
-        factionnames.push_back("Faction " + number);
-        somepeople.push_back(person("Person " + number, years(index16(1000 + 10 * i), index16(1005 + 10 * i)),
-                                    "Did deed " + number + ".", "And more.", index, index));
-    }
-    for (int i = 0; i < eventswanted; ++i) {
-        const std::string number = std::to_string(i);
-        const std::int16_t index = index16(i + 1);
-        groupnames.push_back("Group " + number);
-        someevents.push_back(event("Event " + number, year(index16(-500 + 10 * i)), "Was thing " + number + ".",
-                                   "And more.", index, index, index));
+        const std::int16_t at = index16(i + 1);
+        if (i < peoplewanted) {
+            factionnames.push_back("Faction " + number);
+            somepeople.push_back(person("Person " + number, years(index16(1000 + 10 * i), index16(1005 + 10 * i)),
+                                        "Did deed " + number + ".", "And more.", at, at));
+        }
+        if (i < eventswanted) {
+            groupnames.push_back("Group " + number);
+            someevents.push_back(event("Event " + number, year(index16(-500 + 10 * i)), "Was thing " + number + ".",
+                                       "And more.", at, at, at));
+        }
     }
     setcatalogues(factionnames, factionnames, groupnames, groupnames);
     settimeline(std::move(somepeople), std::move(someevents));

@@ -11,36 +11,6 @@ namespace {
 
 using namespace toolkit;
 
-void rebuilds(Everything& all)
-{
-    all.list.pick = [&all](std::int16_t at) {
-        std::vector<std::string> lines = all.list.lines;
-        all.note(std::to_string(at) + " is " + lines[static_cast<std::size_t>(at)]);
-        std::swap(lines[static_cast<std::size_t>(at)], lines[static_cast<std::size_t>(at - 1)]);
-        clearlist(all.list);
-        for (const std::string& line : lines) {
-            additem(all.list, line);
-        }
-    };
-}
-
-void screensonscreens(Everything& all)
-{
-    all.goopens();
-    all.above->goopens();
-    Everything& third = *all.above->above;
-    third.go.click = [&third] { closescreen(third); };
-}
-
-void asks(Everything& all)
-{
-    all.go.click = [&all] {
-        messagebox("Read this");
-        const bool first = askyesno("Sure?", "Question");
-        all.note("answers " + std::to_string(first) + ' ' + std::to_string(askyesno("Really?", "Question")));
-    };
-}
-
 const Story stories[] = {
     {"AClickComesBeforeTheFieldHasLostTheFocus",
      {},
@@ -49,15 +19,9 @@ const Story stories[] = {
     {"AClickReachesWhatLosingTheFocusHasHidden", [](Everything& all) { all.line.leave = [&all] { hide(all.go); }; },
      "click line; click go", ""},
     {"ASetTextRaisesNoChangeOrOneTooMany",
-     [](Everything& all) {
-         all.go.click = [&all] {
-             for (const char* text : {"5", "5"}) {
-                 settext(all.line, text);
-                 settext(all.lines, "one\r\ntwo");
-             }
-         };
-     },
-     "click go; type lines !", "line=5, lines=one\r\ntwo, lines=one\r\ntwo!"},
+     {},
+     "settext line 5; settext lines one\r\ntwo; settext line 5; settext lines one\r\ntwo; type lines !",
+     "line=5, lines=one\r\ntwo, lines=one\r\ntwo!"},
     {"AChangeHandlerCannotCorrectWhatIsTyped",
      [](Everything& all) {
          all.line.change = [&all] {
@@ -83,24 +47,20 @@ const Story stories[] = {
      "click option(0); right option(0); say option(0); space option(0); say option(0)",
      "pressed, pressed, option(0) off, option(0) on"},
     {"AClickOnALineIsLost", {}, "pick list 2; pick list 2; twice list 0", "list 2, list 2, list 0, list 0"},
-    {"ALineOfARebuiltListCannotBePicked", rebuilds, "pick list 2; pick list 2; twice list 1",
-     "2 is two, 2 is one, 1 is one, 1 is zero"},
-    {"AClickTogglesNoLineOrAnotherToo",
+    {"ALineOfARebuiltListCannotBePicked", [](Everything& all) { all.pickpushesup(); },
+     "pick list 2; pick list 2; twice list 1", "two up, one up, one up, zero up"},
+    {"AClickTogglesNoLineOrAnotherTooOrAClearedListKeepsASelection",
      [](Everything& all) {
          all.list.multiselect = true;
          selectline(all.list, 0, true);
          selectline(all.list, 3, true); // there is none
      },
-     "pick list 0; pick list 1; twice list 2; say list", "list 0, list 1, list 2, list 2, list 010"},
-    {"AClearedListKeepsASelection",
-     [](Everything& all) {
-         all.list.multiselect = true;
-         selectline(all.list, 0, true);
-         clearlist(all.list);
-     },
-     "say list", "list "},
-    {"TypingInAComboCountsAsAPick", [](Everything& all) { all.go.click = [&all] { clearlist(all.combo); }; },
-     "pick combo 1; type combo !; say combo; click go; say combo", "combo 1, combo=Bea! at 1, combo= at -1"},
+     "pick list 0; pick list 1; twice list 2; say list; clear list; say list",
+     "list 0, list 1, list 2, list 2, list 010, list "},
+    {"TypingInAComboCountsAsAPick",
+     {},
+     "pick combo 1; type combo !; say combo; clear combo; say combo",
+     "combo 1, combo=Bea! at 1, combo= at -1"},
     {"ReturnInAComboPicksNoNameOrOneThatIsNotMeant",
      [](Everything& all) {
          all.defaultbutton = &all.go;
@@ -154,14 +114,27 @@ const Story stories[] = {
      },
      "click line; return; escape; click go; second: type line x; return; escape; all: close",
      "line left, second.resized to 9000, second.line=x, second.line left, second.go, second.unloaded, goes on"},
-    {"AScreenBelowIsReachedOrGoesOnTooEarly", screensonscreens,
+    {"AScreenBelowIsReachedOrGoesOnTooEarly",
+     [](Everything& all) {
+         all.goopens();
+         all.above->goopens();
+         all.above->above->go.click = [&all] { closescreen(*all.above->above); };
+     },
      "click go; second: click all.option(0); click go; third: type all.line x; click go; second: click option(0); "
      "close;"
      " all: click option(0); close",
      "second.resized to 9000, third.resized to 9000, third.unloaded, second.goes on, second.option(0), second.unloaded,"
      " goes on, option(0)"},
-    {"AMessageLetsTheScreenBelowBeReached", asks,
-     "click line; click go; message: click all.option(0); close; yes; yes; no; all: close", "line left, answers 1 0"},
+    {"AMessageLetsTheScreenBelowBeReached",
+     [](Everything& all) {
+         all.go.click = [&all] {
+             messagebox("Read this");
+             for (const char* question : {"Sure?", "Really?"}) {
+                 all.note(askyesno(question, "Question") ? "yes" : "no");
+             }
+         };
+     },
+     "click line; click go; message: click all.option(0); close; yes; yes; no; all: close", "line left, yes, no"},
     {"ANewSizeIsNotToldOrToldTwice",
      {},
      "resize 700; resize 700; sizeto 9001; sizeto 9001",

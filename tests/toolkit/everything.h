@@ -4,8 +4,10 @@
 #include "toolkit/operations.h"
 
 #include <array>
+#include <cmath>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace brindor::tests {
 
@@ -19,42 +21,42 @@ struct Everything : toolkit::Screen {
         height = 9000;
         const toolkit::Look look;
         double down = 0;
-        const auto next = [&down](double controlheight) {
-            const double before = std::exchange(down, down + controlheight + 75);
-            return toolkit::Place{150, before, 6000, controlheight};
+        const auto next = [&down](double high) {
+            return toolkit::Place{150, std::exchange(down, down + high + 75), 6000, high};
         };
+        const auto tells = [this](const toolkit::Control& control) { return [&] { note(control.name); }; };
         put(look, *this, go, "go", "Go & see", next(480));
         go.accesskey = 'G';
-        go.click = [this] { note("go"); };
+        go.click = tells(go);
         putcaptioned(look, *this, {linelabel, "linelabel", "Salt & pepper", 1500}, line, "line", "", next(360));
-        line.change = [this] { note("line=" + line.text); };
-        line.leave = [this] { note("line left"); };
         put(look, *this, lines, "lines", "", next(900));
         lines.multiline = true;
-        lines.change = [this] { note("lines=" + lines.text); };
-        lines.leave = [this] { note("lines left"); };
+        for (toolkit::TextBox* field : {&line, &lines}) {
+            field->change = [this, field] { note(field->name + '=' + field->text); };
+            field->leave = [this, field] { note(field->name + " left"); };
+        }
         for (std::size_t i = 0; i < options.size(); ++i) {
             put(look, *this, options[i], toolkit::indexed("option", static_cast<int>(i)), "Option", next(360));
-            options[i].click = [this, i] { note(options[i].name); };
+            options[i].click = tells(options[i]);
         }
         put(look, *this, list, "list", "", next(1800));
-        combo.place = next(360);
         list.pick = [this](std::int16_t at) { note("list " + std::to_string(at)); };
-        putcaptioned(look, *this, {combolabel, "combolabel", "Name", 1500}, combo, "combo", "", combo.place);
+        putcaptioned(look, *this, {combolabel, "combolabel", "Name", 1500}, combo, "combo", "", next(360));
         combo.pick = [this](std::int16_t at) { note("combo " + std::to_string(at)); };
         for (const auto& [inlist, incombo] : {std::pair{"zero", "Ada"}, {"one", "Bea"}, {"two", "Cid"}}) {
             additem(list, inlist);
             additem(combo, incombo);
         }
         for (std::size_t i = 0; i < bars.size(); ++i) {
-            put(look, *this, bars[i], toolkit::indexed("bar", static_cast<int>(i)), i == 0 ? "One" : "Two", next(480));
-            bars[i].bar = true;
-            bars[i].press = [this, i] { pickup(bars[i], " pressed"); };
-            bars[i].click = [this, i] { pickup(bars[i], " clicked"); };
+            toolkit::Button& bar = bars[i];
+            put(look, *this, bar, toolkit::indexed("bar", static_cast<int>(i)), i == 0 ? "One" : "Two", next(480));
+            bar.bar = true;
+            bar.press = [this, &bar] { pickup(bar, " pressed"); };
+            bar.click = [this, &bar] { pickup(bar, " clicked"); };
         }
         put(look, *this, target, "target", "Egypt", next(480));
         target.drop = [this] {
-            note("drop of " + (dragged == nullptr ? "nothing" : dragged->name));
+            note("drop of " + dragged->name);
             enddrag(*dragged);
         };
         put(look, *this, spin, "spin", "", next(450));
@@ -63,9 +65,16 @@ struct Everything : toolkit::Screen {
         put(look, *this, box, "box", "Kinds", {6300, 240, 2000, 900});
         box.border = true;
         put(look, box, inside, "inside", "Inside", {120, 300, 1700, 360});
-        inside.click = [this] { note("inside"); };
-        resize = [this] { note("resized to " + std::to_string(static_cast<int>(width))); };
+        inside.click = tells(inside);
+        resize = [this] { note(sized()); };
         unload = [this] { note("unloaded"); };
+    }
+
+    // Its state, where it is not normal, and its width, in twips.
+    std::string sized() const
+    {
+        const char* state = windowstate == toolkit::normal ? "" : windowstate == toolkit::maximised ? "max " : "min ";
+        return state + ("resized to " + std::to_string(std::lround(width)));
     }
 
     // What happened, one after the other; that of the screens above the first with their name.
@@ -80,16 +89,27 @@ struct Everything : toolkit::Screen {
         };
     }
 
+    // A click on a line builds the list anew, with the line one higher.
+    void pickpushesup()
+    {
+        list.pick = [this](std::int16_t at) {
+            std::vector<std::string> anew = list.lines;
+            note(anew[static_cast<std::size_t>(at)] + " up");
+            std::swap(anew[static_cast<std::size_t>(at)], anew[static_cast<std::size_t>(at - 1)]);
+            clearlist(list);
+            for (const std::string& text : anew) {
+                additem(list, text);
+            }
+        };
+    }
+
     toolkit::Button go;
-    toolkit::Label linelabel;
-    toolkit::TextBox line;
-    toolkit::TextBox lines;
+    toolkit::Label linelabel, combolabel, target;
+    toolkit::TextBox line, lines;
     std::array<toolkit::OptionButton, 2> options;
     toolkit::List list;
-    toolkit::Label combolabel;
     toolkit::Combo combo;
     std::array<toolkit::Button, 2> bars;
-    toolkit::Label target;
     toolkit::Spin spin;
     toolkit::Frame box;
     toolkit::OptionButton inside; // the box

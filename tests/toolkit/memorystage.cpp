@@ -1,5 +1,5 @@
 #include "story.h"
-#include "support/memoryhost.h"
+#include "support/story.h"
 
 #include <gtest/gtest.h>
 
@@ -13,40 +13,27 @@ namespace {
 
 constexpr double frametwips = 60; // two pixels on each side, as the offscreen platform has them
 
-void click(const Act& act)
+// The mouse goes down and comes up. An option that answers to the first is not selected.
+void mouse(const Act& act)
 {
-    if (act.control->kind == Kind::button) {
-        userpress(act.as<Button>());
-        userclick(act.as<Button>());
-    } else if (act.control->kind == Kind::optionbutton) {
-        auto& option = act.as<OptionButton>();
-        option.press ? userpress(option) : userclick(option);
-    } else if (act.control->kind == Kind::label) {
-        userclick(act.as<Label>());
-    } else {
-        userfocus(*act.control);
+    press(*act.control);
+    if (act.control->kind != Kind::optionbutton || !act.as<OptionButton>().press) {
+        click(*act.control);
     }
 }
 
-void space(const Act& act)
+void typeletters(const Act& act)
 {
-    act.control->kind == Kind::button ? userclick(act.as<Button>()) : userclick(act.as<OptionButton>());
-}
-
-void type(const Act& act)
-{
-    userfocus(*act.control);
+    click(*act.control);
     for (const char letter : act.more) {
-        const std::string text = act.control->text + letter;
-        act.control->kind == Kind::combo ? usertype(act.as<Combo>(), text) : usertype(act.as<TextBox>(), text);
+        type(*act.control, act.control->text + letter);
     }
 }
 
-void pick(const Act& act)
+void pickline(const Act& act)
 {
-    const auto line = static_cast<std::int16_t>(act.number());
     for (int times = act.verb == "twice" ? 2 : 1; times > 0; --times) {
-        act.control->kind == Kind::combo ? userpick(act.as<Combo>(), line) : userpick(act.as<List>(), line);
+        pick(*act.control, static_cast<std::int16_t>(act.number()));
     }
 }
 
@@ -57,22 +44,32 @@ void letgo(const Act& act)
     }
 }
 
+std::function<void(const Act&)> of(bool (*deed)(Control&))
+{
+    return [deed](const Act& act) { deed(*act.control); };
+}
+
+std::function<void(const Act&)> of(bool (*deed)(Screen&))
+{
+    return [deed](const Act& act) { deed(act.screen); };
+}
+
 const Verbs acted = {
-    {"click", click},
-    {"right", [](const Act& act) { userpress(act.as<OptionButton>()); }},
-    {"space", space},
-    {"alt", [](const Act& act) { userclick(act.as<Button>()); }},
-    {"type", type},
-    {"pick", pick},
-    {"twice", pick},
-    {"press", [](const Act& act) { userpress(act.as<Button>()); }},
+    {"click", mouse},
+    {"right", of(press)},
+    {"press", of(press)},
+    {"space", of(click)},
+    {"alt", of(click)},
+    {"type", typeletters},
+    {"pick", pickline},
+    {"twice", pickline},
     {"letgo", letgo},
     {"stepup", [](const Act& act) { userstep(act.as<Spin>(), 1); }},
     {"stepdown", [](const Act& act) { userstep(act.as<Spin>(), -1); }},
     {"up", [](const Act& act) { userstep(act.as<TextBox>(), 1); }},
-    {"return", [](const Act& act) { userreturn(act.screen); }},
-    {"escape", [](const Act& act) { userescape(act.screen); }},
-    {"close", [](const Act& act) { userclose(act.screen); }},
+    {"return", of(userreturn)},
+    {"escape", of(userescape)},
+    {"close", of(userclose)},
     {"resize",
      [](const Act& act) { userresize(act.screen, act.number() * 15 + frametwips, act.screen.height, normal); }},
 };
@@ -82,13 +79,12 @@ public:
     explicit MemoryStage(Verbs verbs) : verbs_(std::move(verbs))
     {
         verbs_.insert(acted.begin(), acted.end());
-        verbs_["yes"] = [this](const Act&) { answer(true); };
-        verbs_["no"] = [this](const Act&) { answer(false); };
+        verbs_["yes"] = [this](const Act&) { host_.answers = {true}; };
+        verbs_["no"] = [this](const Act&) { host_.answers = {false}; };
         host_.frame = {frametwips, frametwips};
-        host_.whilemessage = [this](const Message& message) {
-            question_ = message.question;
-            answered_ = false;
-            while (!answered_ && !acts_.empty() && acts_.front().on == "message") {
+        host_.whilemessage = [this](const Message&) {
+            host_.answers.clear();
+            while (host_.answers.empty() && !acts_.empty() && acts_.front().on == "message") {
                 next();
             }
         };
@@ -116,19 +112,9 @@ private:
         verbs_.at(act.verb)(act);
     }
 
-    void answer(bool yes)
-    {
-        if (question_) {
-            host_.answers.push_back(yes);
-        }
-        answered_ = true;
-    }
-
     Verbs verbs_;
     MemoryHost host_;
     Acts acts_;
-    bool question_ = false; // of the message in front
-    bool answered_ = false;
 };
 
 } // namespace

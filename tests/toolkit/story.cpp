@@ -1,6 +1,5 @@
 #include "story.h"
-
-#include "toolkit/user.h"
+#include "support/story.h"
 
 #include <gtest/gtest.h>
 
@@ -40,18 +39,11 @@ const Verbs common = {
     {"settext", [](const Act& act) { settext(*act.control, act.more); }},
     {"select", [](const Act& act) { select(act.as<OptionButton>()); }},
     {"sizeto", [](const Act& act) { resizeto(act.screen, act.number(), act.number()); }},
+    {"clear",
+     [](const Act& act) { act.control->kind == Kind::list ? clearlist(act.as<List>()) : clearlist(act.as<Combo>()); }},
     {"end", [](const Act& act) { closescreen(act.screen); }},
     {"say", [](const Act& act) { act.screen.note(act.control->name + said(*act.control)); }},
 };
-
-// The part of a text before the mark; what follows is left. All of it where there is no mark.
-std::string cut(std::string& text, const std::string& mark)
-{
-    const std::size_t at = text.find(mark);
-    std::string part = text.substr(0, at);
-    text = at == std::string::npos ? "" : text.substr(at + mark.size());
-    return part;
-}
 
 } // namespace
 
@@ -66,30 +58,29 @@ void check(const Story& story, const Verbs& own)
     Acts acts;
     const std::string_view told = story.acts;
     const bool ends = told.ends_with("close") || told.ends_with("quit");
-    for (std::string left = story.acts + std::string(ends ? "" : "; all: end"); !left.empty();) {
-        std::string act = cut(left, "; ");
-        on = act.find(": ") != std::string::npos ? cut(act, ": ") : on;
-        const std::string verb = cut(act, " ");
-        const std::string more = act;
-        std::string name = cut(act, " ");
-        Everything* screen = on == "second" ? &second : on == "third" ? &third : &all;
-        if (name.find('.') != std::string::npos) {
-            screen = &all;
-            EXPECT_EQ(cut(name, "."), "all");
+    for (const std::string& act : split(story.acts + std::string(ends ? "" : "; all: end"), "; ")) {
+        std::vector<std::string> words = split(act, " ");
+        if (words.front().ends_with(':')) {
+            on = words.front().substr(0, words.front().size() - 1);
+            words.erase(words.begin());
         }
-        const auto found = std::find_if(screen->controls.begin(), screen->controls.end(),
-                                        [&name](const Control* control) { return control->name == name; });
-        Control* control = found == screen->controls.end() ? nullptr : *found;
-        acts.push_back({on, verb, *screen, control, control == nullptr ? more : act});
+        words.resize(3); // the verb, the control, what more
+        const bool below = words[1].starts_with("all.");
+        Everything& screen = below ? all : on == "second" ? second : on == "third" ? third : all;
+        const std::string name = words[1].substr(below ? 4 : 0);
+        const auto& controls = screen.controls;
+        const auto found = std::find_if(controls.begin(), controls.end(), [&](auto* at) { return at->name == name; });
+        Control* control = found == controls.end() ? nullptr : *found;
+        acts.push_back({on, words[0], screen, control, words[control == nullptr ? 1 : 2]});
     }
     Verbs verbs = common;
     verbs.insert(own.begin(), own.end());
     if (story.before) {
         story.before(all);
     }
-    const std::unique_ptr<Stage> stage = makestage(verbs);
-    stage->play(all, std::move(acts));
-    EXPECT_EQ(log, std::string("resized to 9000") + (*story.log == 0 ? "" : ", ") + story.log + ", unloaded");
+    const std::string first = all.sized();
+    makestage(verbs)->play(all, std::move(acts));
+    EXPECT_EQ(log, first + (*story.log == 0 ? "" : ", ") + story.log + ", unloaded");
 }
 
 } // namespace brindor::tests

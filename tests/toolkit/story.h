@@ -39,9 +39,6 @@ using Verbs = std::map<std::string, std::function<void(const Act&)>>;
 // test.
 class Stage {
 public:
-    Stage() = default;
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
     virtual ~Stage() = default;
     virtual void play(toolkit::Screen& screen, Acts acts) = 0;
 };

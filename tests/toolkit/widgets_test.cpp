@@ -1,22 +1,27 @@
 #include "base/picturename.h"
 #include "everything.h"
 #include "support/scratchfolder.h"
+#include "toolkit/qt/displayzoom.h"
 #include "toolkit/qt/pictures.h"
 #include "toolkit/qt/qthost.h"
 #include "toolkit/qt/qttext.h"
 #include "windows.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
-#include <QDataStream>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QListWidget>
 #include <QTest>
 
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
+#include <map>
 
 namespace brindor::tests {
 
@@ -96,62 +101,102 @@ TEST(TextTest, BytesAreShownWrongOrComeBackOtherwise)
     EXPECT_EQ(qt::bytesof(QString::fromUtf8("Br\xc3\xbcgge\nB")), "Br\xc3\xbcgge\r\nB");
 }
 
-void savepicture(const char* name, int width, int height)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    ASSERT_TRUE(image.save(name));
-}
-
-// The head of a BMP file that states a size and holds no pixels.
-std::string bmphead(qint32 width, qint32 height)
-{
-    QByteArray head;
-    QDataStream stream(&head, QIODevice::WriteOnly);
-    stream.setByteOrder(QDataStream::LittleEndian);
-    stream << quint16{0x4d42} << quint32{54} << quint32{0} << quint32{54} << quint32{40} << width << height
-           << quint16{1} << quint16{24};
-    return head.append(24, '\0').toStdString();
-}
-
-TEST(PictureTest, AFailureHasAnotherNumberOrABombIsLoaded)
+TEST(PictureTest, AFailureHasAnotherNumberOrABombIsLoadedOrALargePictureKeptLarge)
 {
     const ScratchFolder folder;
     std::filesystem::create_directory("folder.png");
     std::filesystem::create_symlink("/etc/hostname", "link.png");
     writefile("text.png", "no picture");
     writefile("empty.png", "");
-    savepicture("good.png", 64, 48);
-    writefile("cut.png", contentof("good.png").substr(0, 60));
-    writefile("manypixels.bmp", bmphead(10000, 10000));
+    ASSERT_TRUE(QImage(8000, 1000, QImage::Format_Mono).save("wide.png"));
+    writefile("cut.png", contentof("wide.png").substr(0, 60));
+    const char* head = "424d36000000000000003600000028000000102700001027000001001800"; // 10,000 x 10,000 pixels
+    writefile("manypixels.bmp", QByteArray::fromHex(head).append(24, '\0').toStdString());
     writefile("huge.png", "");
     std::filesystem::resize_file("huge.png", largestpicturefile + 1);
-    for (const auto& [file, error] : {std::pair{"missing.png", qt::picturenotfound},
-                                      {"folder.png", qt::picturenotafile},
-                                      {"/dev/zero", qt::pictureoutside},
-                                      {"../good.png", qt::pictureoutside},
-                                      {"link.png", qt::pictureoutside},
-                                      {"text.png", qt::notapicture},
-                                      {"empty.png", qt::notapicture},
-                                      {"cut.png", qt::notapicture},
-                                      {"manypixels.bmp", qt::picturetoolarge},
-                                      {"huge.png", qt::picturetoolarge},
-                                      {"good.png", qt::PictureError{}}}) {
-        const LoadedPicture loaded = qt::loadpicturefile(file);
-        EXPECT_EQ(loaded.error, error) << file;
-        EXPECT_EQ(loaded.picture == nullptr, error != 0) << file;
+    const std::map<int, std::vector<const char*>> errors = {
+        {qt::picturenotfound, {"missing.png"}},
+        {qt::picturenotafile, {"folder.png"}},
+        {qt::pictureoutside, {"/dev/zero", "../wide.png", "link.png"}},
+        {qt::notapicture, {"text.png", "empty.png", "cut.png"}},
+        {qt::picturetoolarge, {"manypixels.bmp", "huge.png"}},
+    };
+    for (const auto& [error, files] : errors) {
+        for (const char* file : files) {
+            const LoadedPicture loaded = qt::loadpicturefile(file);
+            EXPECT_EQ(loaded.error, error) << file;
+            EXPECT_EQ(loaded.picture, nullptr) << file;
+        }
     }
-}
-
-TEST(PictureTest, ALargePictureIsKeptLargeOrLosesItsSize)
-{
-    const ScratchFolder folder;
-    savepicture("wide.png", 8000, 1000);
+    QImage most(8000, 8000, QImage::Format_RGB32);
+    most.fill(Qt::darkGreen);
+    ASSERT_TRUE(most.save("most.png"));
+    EXPECT_EQ(qt::loadpicturefile("most.png").error, 0);
     const PictureRef picture = qt::loadpicturefile("wide.png").picture;
     ASSERT_NE(picture, nullptr);
     EXPECT_EQ(QSize(picture->width, picture->height), QSize(8000, 1000));
     EXPECT_EQ(static_cast<const QPixmap*>(picture->pixels.get())->size(), QSize(4096, 512));
     EXPECT_EQ(qt::StretchedPicture().at(picture, {30, 40}, 2).size(), QSize(60, 80));
+}
+
+long percent(qt::Zoom zoom)
+{
+    return std::lround(zoom.factor() * 100);
+}
+
+TEST(ZoomTest, TheFirstZoomDoesNotSuitTheDisplay)
+{
+    std::vector<long> percents;
+    for (const auto& [width, height] : {std::pair{1024, 768},
+                                        {1366, 768},
+                                        {1920, 1080},
+                                        {2560, 1440},
+                                        {3840, 2160},
+                                        {1092, 614},
+                                        {960, 540},
+                                        {640, 400}}) {
+        percents.push_back(percent(qt::startzoom({width, height})));
+    }
+    EXPECT_EQ(percents, (std::vector<long>{100, 100, 135, 180, 200, 90, 79, 57}));
+}
+
+TEST(ZoomTest, AChoiceIsForgottenInTheNextRunOrABadFileDoesHarm)
+{
+    const ScratchFolder folder;
+    writefile("zoom.txt", "1920 1080 135\nnonsense\n800 600 9999\n7 7\n");
+    qt::ChosenZooms zooms("zoom.txt");
+    EXPECT_EQ(percent(zooms.of({1920, 1080}).value()), 135);
+    EXPECT_EQ(percent(zooms.of({800, 600}).value()), 400);
+    EXPECT_FALSE(zooms.of({7, 7}));
+    zooms.choose({1024, 768}, qt::nextzoom(qt::Zoom(1), 1));
+    zooms.choose({800, 600}, std::nullopt);
+    EXPECT_EQ(contentof("zoom.txt"), "1024 768 110\n1920 1080 135\n");
+    EXPECT_EQ(percent(qt::ChosenZooms("zoom.txt").of({1024, 768}).value()), 110);
+    EXPECT_EQ(percent(qt::nextzoom(qt::Zoom(1.1), -1)), 100);
+    EXPECT_EQ(percent(qt::nextzoom(qt::Zoom(0.5), -1)), 50);
+}
+
+RC_GTEST_PROP(ZoomTest, ASizeDriftsOverRoundTrips, ())
+{
+    const QtHost host;
+    const auto twips = rc::gen::inRange(3000, 10000);
+    for (const double zoom : {1.0, 0.79, 1.21}) {
+        qt::setbasezoom(qt::Zoom(zoom));
+        std::string log;
+        Everything all("all", log, nullptr);
+        const double width = all.width = *twips;
+        const double height = all.height = *twips;
+        showwhile(all, [&] {
+            const QSize size = windowof(all).size();
+            for (const QSize given : {size - QSize(7, 11), size}) {
+                windowof(all).resize(given);
+                QCoreApplication::processEvents();
+            }
+        });
+        qt::setbasezoom(qt::Zoom(1));
+        RC_ASSERT(std::count(log.begin(), log.end(), 'z') == 3); // resized, smaller and back
+        RC_ASSERT(all.width == width && all.height == height);
+    }
 }
 
 } // namespace

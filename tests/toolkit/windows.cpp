@@ -2,7 +2,9 @@
 
 #include "toolkit/operations.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QMetaEnum>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -14,43 +16,6 @@
 
 namespace brindor::tests {
 
-namespace {
-
-// Acts on the window in front, one action a tick.
-class Person : public QObject {
-public:
-    explicit Person(std::function<void(QWidget&)> act) : act_(std::move(act)) { arm(); }
-
-private:
-    void arm()
-    {
-        QTimer::singleShot(1, this, [this] { next(); });
-    }
-
-    // A mouse event lets the next tick in; it waits as long as the same window is being acted on. A message that has
-    // just been answered is gone from sight a little before it is over.
-    void next()
-    {
-        arm();
-        QWidget* front = QApplication::activeModalWidget();
-        if (front == nullptr || front == acting_ || !front->isVisible() || !front->windowHandle()->isExposed()) {
-            return;
-        }
-        const toolkit::Screen* screen = toolkit::topscreen();
-        if (front->objectName() == "message" ||
-            (screen != nullptr && front->objectName().toStdString() == screen->name)) {
-            QWidget* before = std::exchange(acting_, front);
-            act_(*front);
-            acting_ = before;
-        }
-    }
-
-    std::function<void(QWidget&)> act_;
-    QWidget* acting_ = nullptr;
-};
-
-} // namespace
-
 QWidget& windowof(const toolkit::Screen& screen)
 {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -61,13 +26,15 @@ QWidget& windowof(const toolkit::Screen& screen)
     throw std::out_of_range("no window " + screen.name);
 }
 
+QWidget& widgetin(QWidget& window, const std::string& name)
+{
+    auto* widget = window.findChild<QWidget*>(QString::fromStdString(name));
+    return widget != nullptr ? *widget : throw std::out_of_range("no widget " + name);
+}
+
 QWidget& widgetof(const toolkit::Control& control)
 {
-    auto* widget = windowof(*control.screen).findChild<QWidget*>(QString::fromStdString(control.name));
-    if (widget == nullptr) {
-        throw std::out_of_range("no widget " + control.name);
-    }
-    return *widget;
+    return widgetin(windowof(*control.screen), control.name);
 }
 
 void showwhile(toolkit::Screen& screen, const std::function<void()>& act)
@@ -80,10 +47,45 @@ void showwhile(toolkit::Screen& screen, const std::function<void()>& act)
     toolkit::showmodal(screen);
 }
 
-void walk(const std::function<void()>& open, std::function<void(QWidget& window)> act)
+// A mouse event lets the next tick in; it waits as long as the same window is being acted on. A message that has just
+// been answered is gone from sight a little before it is over.
+void walk(const std::function<void()>& open, const std::function<void(QWidget& window)>& act)
 {
-    const Person person(std::move(act));
+    const QObject person; // no tick outlives it
+    QWidget* acting = nullptr;
+    const std::function<void()> tick = [&] {
+        QTimer::singleShot(1, &person, tick);
+        QWidget* front = QApplication::activeModalWidget();
+        if (front == nullptr || front == acting || !front->isVisible() || !front->windowHandle()->isExposed()) {
+            return;
+        }
+        const toolkit::Screen* screen = toolkit::topscreen();
+        if (front->objectName().toStdString() == (screen == nullptr ? "message" : screen->name)) {
+            QWidget* before = std::exchange(acting, front);
+            act(*front);
+            acting = before;
+        }
+    };
+    QTimer::singleShot(1, &person, tick);
     open();
+}
+
+void walk(const std::function<void()>& open, const std::vector<Step>& steps)
+{
+    std::size_t done = 0;
+    int waited = 0;
+    walk(open, [&](QWidget& front) {
+        constexpr int patience = 5000;
+        if (done == steps.size()) {
+            front.close();
+        } else if (front.objectName().toStdString() == steps[done].window) {
+            steps[done++].act(front);
+        } else if (++waited > patience) {
+            ADD_FAILURE() << steps[done].window << " did not come";
+            done = steps.size();
+        }
+    });
+    EXPECT_EQ(done, steps.size()) << "the last steps found no window";
 }
 
 void mouse(QWidget& window, QPoint from, QPoint to, bool letgo)
@@ -96,6 +98,33 @@ void mouse(QWidget& window, QPoint from, QPoint to, bool letgo)
     if (handle && letgo) {
         QTest::mouseRelease(handle, Qt::LeftButton, {}, to);
     }
+}
+
+void mouse(QWidget& widget, QPoint at)
+{
+    const QPoint inwindow = widget.mapTo(widget.window(), at);
+    mouse(*widget.window(), inwindow, inwindow);
+}
+
+std::string told(QWidget& widget)
+{
+    QAccessibleInterface& about = *QAccessible::queryAccessibleInterface(&widget);
+    const auto add = [](const char* mark, const QString& text) {
+        return text.isEmpty() ? "" : mark + text.toStdString();
+    };
+    const auto related = [&about](QAccessible::Relation kind) {
+        QString names;
+        for (const auto& [other, relation] : about.relations(kind)) {
+            names += other->text(QAccessible::Name);
+        }
+        return names;
+    };
+    const QAccessible::State state = about.state();
+    return QMetaEnum::fromType<QAccessible::Role>().valueToKey(about.role()) +
+           (" '" + about.text(QAccessible::Name).toStdString()) + '\'' + add(" = ", about.text(QAccessible::Value)) +
+           add(": ", about.text(QAccessible::Description)) + (state.checked ? " checked" : "") +
+           (state.disabled ? " disabled" : "") + (state.invisible ? " invisible" : "") + (state.modal ? " modal" : "") +
+           add(" < ", related(QAccessible::Label)) + add(" > ", related(QAccessible::Labelled));
 }
 
 void quitbydesktop()

@@ -11,9 +11,6 @@
 #include <QTest>
 #include <QWindow>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <utility>
 
 namespace brindor::tests {
@@ -43,31 +40,20 @@ QPoint where(const Act& act)
     return widget.mapTo(&windowof(act.screen), at);
 }
 
-void clickat(QWidget& window, QPoint at)
-{
-    mouse(window, at, at);
-}
-
 void click(const Act& act)
 {
-    clickat(windowof(act.screen), where(act));
+    mouse(windowof(act.screen), where(act));
 }
 
-// Tabs to the control, the shorter way, so that nothing else is passed.
 void space(const Act& act)
 {
-    const std::vector<Control*>& order = act.screen.controls;
-    const auto wanted = std::find(order.begin(), order.end(), act.control);
-    const auto from = std::find(order.begin(), order.end(), act.screen.focus);
-    for (std::size_t i = 0; i < order.size() && !widgetof(*act.control).hasFocus(); ++i) {
-        QTest::keyClick(handleof(act), from < wanted ? Qt::Key_Tab : Qt::Key_Backtab);
-    }
+    widgetof(*act.control).setFocus(Qt::TabFocusReason);
     QTest::keyClick(handleof(act), Qt::Key_Space);
 }
 
 void type(const Act& act)
 {
-    clickat(windowof(act.screen), where({act.on, act.verb, act.screen, act.control, ""}));
+    mouse(windowof(act.screen), where({act.on, act.verb, act.screen, act.control, ""}));
     QTest::keyClick(handleof(act), Qt::Key_End, Qt::ControlModifier);
     QTest::keyClick(handleof(act), Qt::Key_End);
     for (const char letter : act.more) {
@@ -81,11 +67,10 @@ void pick(const Act& act)
         return click(act);
     }
     auto& widget = static_cast<QComboBox&>(widgetof(*act.control));
-    clickat(windowof(act.screen), widget.mapTo(&windowof(act.screen), QPoint(widget.width() - 6, widget.height() / 2)));
+    mouse(widget, {widget.width() - 6, widget.height() / 2});
     QTest::qWait(QApplication::doubleClickInterval() + 50); // a release so soon would count as the same click
     QAbstractItemView* view = widget.view();
-    const QPoint middle = view->visualRect(widget.model()->index(act.number(), 0)).center();
-    clickat(*view->window(), view->viewport()->mapTo(view->window(), middle));
+    mouse(*view->viewport(), view->visualRect(widget.model()->index(act.number(), 0)).center());
 }
 
 void letgo(const Act& act)
@@ -97,8 +82,8 @@ void letgo(const Act& act)
 void answer(const Act& act)
 {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    const QAbstractButton* button = box->buttons().value(act.verb == "yes" ? 0 : 1); // OK is the only one
-    clickat(*box, button->mapTo(box, button->rect().center()));
+    QAbstractButton* button = box->buttons().value(act.verb == "yes" ? 0 : 1); // OK is the only one
+    mouse(*button, button->rect().center());
 }
 
 std::function<void(const Act&)> key(Qt::Key key)
@@ -137,19 +122,11 @@ public:
 
     void play(Screen& screen, Acts acts) override
     {
-        constexpr int patience = 5000;
-        int waited = 0;
-        walk([&] { showmodal(screen); },
-             [&](const QWidget& front) {
-                 if (!acts.empty() && front.objectName().toStdString() == acts.front().on) {
-                     const Act act = acts.front();
-                     acts.pop_front();
-                     verbs_.at(act.verb)(act);
-                 } else if (++waited > patience) {
-                     quitbydesktop();
-                 }
-             });
-        EXPECT_TRUE(acts.empty()) << "no window for " << acts.front().verb << " on " << acts.front().on;
+        std::vector<Step> steps;
+        for (const Act& act : acts) {
+            steps.push_back({act.on, [this, act](QWidget&) { verbs_.at(act.verb)(act); }});
+        }
+        walk([&] { showmodal(screen); }, steps);
     }
 
 private:

@@ -1,22 +1,15 @@
 #include "authoring/commandline.h"
-#include "support/programtest.h"
-
-#include <gtest/gtest.h>
+#include "tools/sample.h"
 
 namespace brindor::authoring {
 
-class CommandLine : public tests::ProgramTest {};
+using CommandLine = tests::ProgramTest;
 
 TEST_F(CommandLine, ASlipIsAnsweredWithTheRightLine)
 {
-    std::filesystem::create_directories("my old voyages");
-    std::filesystem::create_directories("game");
-    using Words = std::vector<std::string>;
-    struct Case {
-        Words words;
-        std::string advice;
-    };
-    const std::vector<Case> cases = {
+    tests::fs::create_directory("my old voyages");
+    tests::fs::create_directory("game");
+    const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
         {{"check", "voyages"}, ""},
         {{"--help"}, ""},
         {{"chek", "voyages"}, "\"chek\" is no command; did you mean: timelinemaker check voyages"},
@@ -32,8 +25,8 @@ TEST_F(CommandLine, ASlipIsAnsweredWithTheRightLine)
         {{"make", "v", "Modern"}, "the name of a timeline ends in .bd3: timelinemaker make v Modern.bd3"},
         {{"make", "v", "game"}, "the name of a timeline ends in .bd3: timelinemaker make v game/Modern.bd3"},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(commandadvice(c.words), c.advice) << c.words.front();
+    for (const auto& [words, advice] : cases) {
+        EXPECT_EQ(commandadvice(words), advice);
     }
 }
 

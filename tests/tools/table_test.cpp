@@ -1,20 +1,13 @@
-#include "authoring/commands.h"
 #include "authoring/csvfile.h"
 #include "authoring/values.h"
-#include "support/programtest.h"
+#include "timeline/writer.h"
 #include "tools/sample.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
-#include <unicode/unistr.h>
 
 namespace brindor::authoring {
 
-using tests::contentof;
-using tests::errors;
-using tests::report;
-using tests::writefile;
-using tests::writefolder;
+using namespace tests;
 
 namespace {
 
@@ -23,49 +16,29 @@ std::string shown(const CsvTable& table)
 {
     std::string text;
     for (const CsvRecord& record : table.records) {
-        text += std::to_string(record.line) + ':';
-        for (std::size_t i = 0; i < record.fields.size(); ++i) {
-            text += (i == 0 ? "" : "|") + record.fields[i];
-        }
+        text += std::to_string(record.line) + ':' + each([](const std::string& field) { return field; }, record.fields);
         text += '\n';
     }
-    if (table.fault) {
-        text +=
-            std::to_string(table.fault->line) + '/' + std::to_string(table.fault->column) + ": " + table.fault->text;
-    }
-    return text;
+    const CsvFault fault = table.fault.value_or(CsvFault());
+    return text + (table.fault ? std::to_string(fault.line) + '/' + std::to_string(fault.column) + ": " : "") +
+           fault.text;
 }
 
-const char* const opened = "the quote that opens this text is never closed";
-const char* const inner = "a quote inside a text must be doubled, and the whole text must stand in quotes";
-
-// The text as a spreadsheet of another country saves it: other separators, decimal commas, quotes where needed.
-std::string converted(const std::string& text, char separator)
-{
-    std::string result;
-    for (const CsvRecord& record : parsecsv(text, ',').records) {
-        for (std::size_t i = 0; i < record.fields.size(); ++i) {
-            std::string field = record.fields[i];
-            const bool number = !field.empty() && field.find_first_not_of("-.0123456789") == std::string::npos;
-            std::replace(field.begin(), field.end(), '.', number && separator == ';' ? ',' : '.');
-            const bool quoted = field.find(separator) != std::string::npos;
-            result += (i == 0 ? "" : std::string(1, separator)) + (quoted ? '"' + field + '"' : field);
-        }
-        result += "\r\n";
-    }
-    return result;
-}
-
+// Letters of ASCII in UTF-16 with a mark.
 std::string utf16(const std::string& text, bool bigendian)
 {
-    const icu::UnicodeString characters = icu::UnicodeString::fromUTF8("\uFEFF" + text);
-    std::string bytes;
-    for (int32_t i = 0; i < characters.length(); ++i) {
-        const char low = static_cast<char>(characters[i] & 0xFF);
-        const char high = static_cast<char>(characters[i] >> 8);
-        bytes += bigendian ? std::string{high, low} : std::string{low, high};
+    std::string bytes = bigendian ? "\xFE\xFF" : "\xFF\xFE";
+    for (const char c : text) {
+        bytes += bigendian ? std::string{'\0', c} : std::string{c, '\0'};
     }
     return bytes;
+}
+
+// The value of a field, or why it has none.
+template <class Value>
+std::string valueof(const Result<Value>& value)
+{
+    return value ? std::to_string(*value.value) : value.reason;
 }
 
 } // namespace
@@ -90,144 +63,94 @@ TEST(Csv, IsReadAsSpreadsheetsWriteIt)
         {"line breaks in quotes", "a,\"b\nc\"\r\n\"d\r\ne\",f\ng,h\n", "1:a|b\nc\n3:d\r\ne|f\n5:g|h\n"},
         {"semicolons", "a,b;\"c;d\"\n", "1:a,b|c;d\n", ';'},
         {"tabs", "\ta\t b\n", "1:|a|b\n", '\t'},
-        {"a quote never closed", "a,b\nc,\"d\ne,f\n", "1:a|b\n2/2: " + std::string(opened)},
-        {"a lone quote", "a,b\nc,d \"x\" e\n", "1:a|b\n2/2: " + std::string(inner)},
+        {"a quote never closed", "a,b\nc,\"d\ne,f\n", "1:a|b\n2/2: the quote that opens this text is never closed"},
+        {"a lone quote", "a,b\nc,d \"x\" e\n",
+         "1:a|b\n2/2: a quote inside a text must be doubled, and the whole text must stand in quotes"},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(shown(parsecsv(c.text, c.separator)), c.expected) << c.about;
     }
-    const std::vector<std::string> fields = {"", "plain", "a, b", "the \"Great\"", "", "Malmö"};
-    EXPECT_EQ(csvline(fields), ",plain,\"a, b\",\"the \"\"Great\"\"\",,Malmö\n");
+    EXPECT_EQ(csvline({"", "plain", "a, b", "the \"Great\"", "", "Malmö"}),
+              ",plain,\"a, b\",\"the \"\"Great\"\"\",,Malmö\n");
 }
 
-class Spreadsheet : public tests::ProgramTest {};
+using Spreadsheet = ProgramTest;
 
 TEST_F(Spreadsheet, SavedInAnyCommonWayIsTheSameTimeline)
 {
-    const std::string people =
-        tests::peopleheader() + tests::goodpeople() + "Ma Rong,100,,,,\"Lutes; and, books.\",,China,Poet\n";
-    const std::string events = tests::eventsheader() + tests::goodevents();
-    const auto made = [](const std::string& peopletext, const std::string& eventstext) {
-        writefile("people.csv", peopletext);
-        writefile("events.csv", eventstext);
-        const Report report = maketimeline(".", "X.bd3", true);
-        return errors(report.findings) + (report.said.empty() ? "" : contentof("X.bd3"));
-    };
-    const std::string wanted = made(people, events);
-    ASSERT_TRUE(wanted.starts_with("11 -- Number"));
-    const auto both = [&](const auto& change) { return made(change(people), change(events)); };
-    EXPECT_EQ(both([](const std::string& t) { return "\xEF\xBB\xBF" + converted(t, ';'); }), wanted);
-    EXPECT_EQ(both([](const std::string& t) { return "sep=;\r\n" + converted(t, ';'); }), wanted);
-    EXPECT_EQ(both([](const std::string& t) { return converted(t, '\t'); }), wanted);
-    EXPECT_EQ(both([](const std::string& t) { return utf16(converted(t, '\t'), false); }), wanted);
-    EXPECT_EQ(both([](const std::string& t) { return utf16(converted(t, ';'), true); }), wanted);
-    // Rows of nothing but separators, empty columns behind the last, headings in other letters and with blanks.
-    EXPECT_EQ(
-        both([](std::string t) { return " Name , Date 1" + t.replace(t.find('\n'), 1, ",,\n,,,,\n").substr(10); }),
-        wanted);
-}
-
-TEST_F(Spreadsheet, TellsWhatIsWrongWithTheFile)
-{
-    struct Case {
-        std::string text;
-        std::string said;
-    };
-    const std::string utf8 = "in Excel save it as \"CSV UTF-8\", in LibreOffice as \"Text CSV\" with the character set "
-                             "\"Unicode (UTF-8)\"";
-    const std::vector<Case> cases = {
-        {"",
-         ":1: error: the file is empty; its first row must hold the headings name, date1, kind1, date2, kind2, desc1, "
-         "desc2, faction, occupation, woman, fame, source"},
-        {"name,date1,desc1,occupation\n",
-         ":1: error: the column faction is missing; found: name, date1, desc1, occupation"},
-        {"Name;Year\n", ":1: error: the columns date1, desc1, faction, occupation are missing; found: name, year"},
-        {"My timeline,,,\n\nname,date1,desc1,faction,occupation\n",
-         ":1: error: this is no row of headings; they stand in line 3, so delete the rows above that"},
-        {"name,date1,name,desc1,faction,occupation\n",
-         ":1: error: the column name stands twice; give one of them another name"},
-        {"colour," + tests::peopleheader(), ":1: note: the column colour is not known and left unread"},
-        {"Mal\xF6,1\nMal\xF6,2\n", ": error: the file is not in UTF-8, so letters with accents would be lost; " + utf8},
-        {"PK\x03\x04 and so on", ": error: this is a spreadsheet's own file; open it in the spreadsheet and save it as "
-                                 "\"CSV UTF-8\" or \"Text CSV\""},
-    };
-    writefile("people.xlsx", "");
-    EXPECT_TRUE(
-        report(checkfolder("."))
-            .starts_with("./people.csv: error: cannot be read: No such file or directory; open ./people.xlsx in the "
-                         "spreadsheet and save it as \"CSV UTF-8\" or \"Text CSV\"\n"));
-    for (const Case& c : cases) {
-        writefile("people.csv", c.text);
-        std::string said;
-        for (const Finding& finding : checkfolder(".")) {
-            const bool ofsize = finding.text.starts_with("only 0");
-            said += finding.file == "./people.csv" && !ofsize ? findingline(finding) : "";
+    EXPECT_EQ(errors(newtimeline("my voyages", ',')),
+              "my voyages: people.csv and events.csv with three example rows each; write your own rows, then "
+              "timelinemaker play \"my voyages\"");
+    newtimeline("semicolons", ';');
+    EXPECT_NE(contentof("semicolons/events.csv").find(".;;Exploration;Spain;;San Salvador;24,05;-74,50;"),
+              std::string::npos);
+    const auto loaded = [](const std::string& from, const auto& change) {
+        for (const std::string name : {"/people.csv", "/events.csv"}) {
+            writefile('.' + name, change(contentof(from + name).substr(3))); // without the mark of UTF-8
         }
-        EXPECT_EQ(said, "./people.csv" + c.said) << c.text;
-    }
+        Findings findings;
+        loadtarget(".", findings);
+        return report(findings) + timelinetext();
+    };
+    const auto plain = [](const std::string& text) { return text; };
+    const auto tabs = [](std::string text) {
+        std::replace(text.begin(), text.end(), ',', '\t');
+        return text;
+    };
+    const std::string wanted = loaded("my voyages", plain);
+    EXPECT_TRUE(wanted.starts_with("3 -- Number of people")) << wanted;
+    EXPECT_EQ(loaded("my voyages", tabs), wanted);
+    EXPECT_EQ(loaded("my voyages", [&](const std::string& text) { return utf16(tabs(text), false); }), wanted);
+    EXPECT_EQ(loaded("semicolons", plain), wanted);
+    EXPECT_EQ(loaded("semicolons", [](const std::string& text) { return "\xEF\xBB\xBF" + text; }), wanted);
+    EXPECT_EQ(loaded("semicolons", [](const std::string& text) { return "sep=;\r\n" + text; }), wanted);
+    EXPECT_EQ(loaded("semicolons", [](const std::string& text) { return utf16(text, true); }), wanted);
+    // Rows of nothing but separators, empty columns behind the last, headings in other letters and with blanks.
+    EXPECT_EQ(loaded("my voyages",
+                     [](std::string text) {
+                         return " Name , Date 1" + text.replace(text.find('\n'), 1, ",,\n,,,,\n").substr(10);
+                     }),
+              wanted);
 }
 
 TEST(Values, YearsComeInManyForms)
 {
-    struct Case {
-        const char* field;
-        const char* meaning; // a number, or what is wrong
+    const auto year = [](const std::string& field) { return valueof(yearof(field)); };
+    EXPECT_EQ(each(year, {"1832", "+5", "-44", "\u221244", "44 BC", "44bce", "44 B.C.", "AD 800", "800 CE",
+                          "1832\u00A0", "\u2009 1832 "}),
+              "1832|5|-44|-44|-44|-44|-44|800|800|1832|1832");
+    EXPECT_EQ(year("99999"), "\"99999\" is outside -32768 to 32767");
+    const std::string word = "write the year alone, 1832; the word goes into the column kind1 or kind2";
+    const std::string range = "write the year alone, 1832; the last year goes into date2";
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"AD 800 BC", "write the year alone, as 800"},
+        {"-44 BC", "write a whole number, as 1832, -44 or 44 BC"},
+        {"12/05/1832", "write the year alone, 1832"},
+        {"12.5.1832", "write the year alone, 1832"},
+        {"1832-05-12", "write the year alone, as 1832"},
+        {"1832-1840", range},
+        {"1832 \u2013 40", range},
+        {"1,832", "write the year without a separator, 1832"},
+        {"ca. 1832", word},
+        {"c. 1832", word},
+        {"May 1832", "write the year alone, as 1832"},
+        {"soon", "write a whole number, as 1832, -44 or 44 BC"},
     };
-    const std::vector<Case> cases = {
-        {"1832", "1832"},
-        {"+5", "5"},
-        {"-44", "-44"},
-        {"\u221244", "-44"},
-        {"44 BC", "-44"},
-        {"44bce", "-44"},
-        {"44 B.C.", "-44"},
-        {"AD 800", "800"},
-        {"800 CE", "800"},
-        {"1832\u00A0", "1832"},
-        {"\u2009 1832 ", "1832"},
-        {"AD 800 BC", "no year; write the year alone, as 800"},
-        {"-44 BC", "no year; write a whole number, as 1832, -44 or 44 BC"},
-        {"12/05/1832", "no year; write the year alone, 1832"},
-        {"12.5.1832", "no year; write the year alone, 1832"},
-        {"1832-05-12", "no year; write the year alone, as 1832"},
-        {"1832-1840", "no year; write the year alone, 1832; the last year goes into date2"},
-        {"1832 \u2013 40", "no year; write the year alone, 1832; the last year goes into date2"},
-        {"1,832", "no year; write the year without a separator, 1832"},
-        {"ca. 1832", "no year; write the year alone, 1832; the word goes into the column kind1 or kind2"},
-        {"c. 1832", "no year; write the year alone, 1832; the word goes into the column kind1 or kind2"},
-        {"May 1832", "no year; write the year alone, as 1832"},
-        {"soon", "no year; write a whole number, as 1832, -44 or 44 BC"},
-    };
-    for (const Case& c : cases) {
-        const Result<std::int16_t> year = yearof(c.field);
-        const std::string refused = '"' + std::string(c.field) + "\" is " + c.meaning;
-        EXPECT_EQ(year ? std::to_string(*year.value) : year.reason, year ? c.meaning : refused) << c.field;
+    for (const auto& [field, advice] : cases) {
+        EXPECT_EQ(year(field), '"' + field + "\" is no year; " + advice);
     }
-    EXPECT_EQ(yearof("99999").reason, "\"99999\" is outside -32768 to 32767");
 }
 
 TEST(Values, KindsAndDegreesComeInManyForms)
 {
-    std::string kinds;
-    for (const char* field : {"", "ca", "CA.", "c.", "circa", " About", "reign", "(Reign)", "?"}) {
-        const Result<std::int16_t> kind = datekindof(field);
-        kinds += kind ? std::to_string(*kind.value) : kind.reason;
-    }
-    EXPECT_EQ(kinds, "01111122\"?\" is no kind of date; leave it empty or write ca. or reign");
-    struct Case {
-        const char* field;
-        double degrees; // 999: refused
+    const auto kind = [](const std::string& field) { return valueof(datekindof(field)); };
+    EXPECT_EQ(each(kind, {"", "ca", "CA.", "c.", "circa", " About", "reign", "(Reign)", "?"}),
+              "0|1|1|1|1|1|2|2|\"?\" is no kind of date; leave it empty or write ca. or reign");
+    const auto degrees = [](const std::string& field) {
+        return std::to_string(degreesof(field, 90).value.value_or(999)).substr(0, 5);
     };
-    for (const Case& c : std::vector<Case>{{"50.91", 50.91},
-                                           {"50,91", 50.91},
-                                           {"\u221212,5", -12.5},
-                                           {"90", 90},
-                                           {"90.5", 999},
-                                           {"nan", 999},
-                                           {"1,2,3", 999},
-                                           {"50.9x", 999}}) {
-        EXPECT_EQ(degreesof(c.field, 90).value.value_or(999), c.degrees) << c.field;
-    }
+    EXPECT_EQ(each(degrees, {"50.91", "50,91", "\u221212,5", "90", "-90", "90.5", "-90.5", "nan", "1,2,3", "50.9x"}),
+              "50.91|50.91|-12.5|90.00|-90.0|999.0|999.0|999.0|999.0|999.0");
 }
 
 } // namespace brindor::authoring

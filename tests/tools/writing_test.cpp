@@ -1,30 +1,20 @@
-#include "authoring/commands.h"
 #include "authoring/writing.h"
-#include "support/programtest.h"
 #include "tools/sample.h"
-
-#include <gtest/gtest.h>
 
 namespace brindor::authoring {
 
-namespace fs = std::filesystem;
-using tests::contentof;
-using tests::errors;
-using tests::report;
-using tests::writefile;
-using tests::writefolder;
-
-class WritingTest : public tests::ProgramTest {};
+using namespace tests;
+using WritingTest = ProgramTest;
 
 TEST_F(WritingTest, OneProcedureDecidesWhatIsWritten)
 {
-    const std::string picture = tests::bmpfile(4, 3);
+    const std::string picture = bmpfile(4, 3);
     fs::create_directories("out/sub.png");
     fs::create_directory("outside");
     fs::create_directory_symlink("../outside", "out/link");
     fs::create_symlink("../outside/x.bmp", "out/link.bmp");
-    writefile("outside/x.bmp", tests::bmpfile(8, 6));
-    writefile("out/old.bmp", tests::bmpfile(8, 6));
+    writefile("outside/x.bmp", bmpfile(8, 6));
+    writefile("out/old.bmp", bmpfile(8, 6));
     writefile("out/text.bmp", "the only copy of a diary");
     writefile("out/brindor", "the game");
     struct Case {
@@ -33,16 +23,16 @@ TEST_F(WritingTest, OneProcedureDecidesWhatIsWritten)
         bool overwrite;
         std::string said; // a part of it; empty: written
     };
+    const std::string dots = "no part of it may be empty or begin with a dot";
     const std::vector<Case> cases = {
         {"new/a.bmp", picture, false, ""},
         {"new/a.bmp", picture, false, ""}, // the same again
         {"a.csv", "anything", false, ""},
-        {"../x.bmp", picture, true, "no part of it may be empty or begin with a dot"},
-        {"maps/../../x.bmp", picture, true, "no part of it may be empty or begin with a dot"},
+        {"../x.bmp", picture, true, dots},
+        {"maps/../../x.bmp", picture, true, dots},
         {"/tmp/x.bmp", picture, true, "it must lie in the folder or below it"},
         {"a\\b.bmp", picture, true, "its parts must be joined by /"},
-        {".bashrc", picture, true, "no part of it may be empty or begin with a dot"},
-        {".hidden/x.bmp", picture, true, "no part of it may be empty or begin with a dot"},
+        {".hidden/x.bmp", picture, true, dots},
         {"brindor", "MZ", true, "the tools write timelines"},
         {"run.sh", picture, true, "the tools write timelines"},
         {"a.bmp", "rm -r /", true, "the content is no picture"},
@@ -55,19 +45,15 @@ TEST_F(WritingTest, OneProcedureDecidesWhatIsWritten)
         {"old.bmp", picture, true, ""},
         {"link.bmp", picture, true, ""}, // the link, not what it leads to
     };
-    for (const Case& c : cases) {
+    for (const auto& [name, content, overwrite, said] : cases) {
         Findings findings;
-        Writing writing(c.overwrite, findings);
-        writing.add("out", c.name, c.content);
-        EXPECT_EQ(writing.commit(), c.said.empty()) << c.name;
-        EXPECT_NE((report(findings) + "\n").find(c.said), std::string::npos) << c.name << report(findings);
-        if (c.said.empty()) {
-            EXPECT_EQ(contentof("out/" + c.name), c.content);
-        }
+        Writing writing(overwrite, findings);
+        writing.add("out", name, content);
+        EXPECT_EQ(writing.commit(), said.empty()) << name;
+        EXPECT_NE((report(findings) + "\n").find(said), std::string::npos) << name << report(findings);
+        EXPECT_EQ(contentof("out/" + name) == content, said.empty()) << name;
     }
-    EXPECT_EQ(contentof("outside/x.bmp"), tests::bmpfile(8, 6));
-    EXPECT_EQ(contentof("out/text.bmp"), "the only copy of a diary");
-    EXPECT_FALSE(fs::exists("x.bmp"));
+    EXPECT_EQ(contentof("outside/x.bmp"), bmpfile(8, 6));
 
     Findings findings;
     Writing writing(true, findings);
@@ -79,60 +65,48 @@ TEST_F(WritingTest, OneProcedureDecidesWhatIsWritten)
 
 TEST_F(WritingTest, MakeExportMakeGivesTheSameBytes)
 {
-    writefolder("in", tests::goodpeople() + "\"Comma, the \"\"Quoted\"\"\",-5,ca.,-5,,\"One, two\",,Éire,\n",
-                tests::goodevents() + "Own,1,,,,D,,G,N,M,,,,own/a.bmp\nBare,2,,2,ca.,D,,,,,,,,\n"
-                                      "Battle of Edessa!,260,,,,D,,War,Rome,,Edessa,37,38,\n");
-    fs::create_directory("in/own");
-    writefile("in/own/a.bmp", tests::bmpfile(40, 30));
-    ASSERT_EQ(errors(maketimeline("in", "one/Classic.bd3", false).findings), "");
+    EXPECT_EQ(errors(maketimeline(sample("odd"), "one/Classic.bd3", false)),
+              "Classic.bd3: 7 people, 8 events; 6 maps are not drawn yet, which mapmaker maps does");
+    EXPECT_EQ(contentof("one/Classic.bd3"), contentof("odd/Classic.bd3"));
     fs::create_directories("one/classic/maps");
-    fs::create_directory("in/maps");
     writefile("one/classic/maps/sack-of-luoyang.png", "\x89PNG\r\n\x1A\n a map");
-    writefile("in/maps/sack-of-luoyang.png", "another");
-    EXPECT_EQ(
-        errors(exporttimeline("one/Classic.bd3", "in", false).findings),
-        "in/maps/sack-of-luoyang.png: error: stands there already and is no picture, so it is not replaced\n"
-        "in/people.csv: error: stands there already and is another spreadsheet; name another place, or replace it with "
-        "--overwrite\n"
-        "in/events.csv: error: stands there already and is another spreadsheet; name another place, or replace it with "
-        "--overwrite\n");
-    const Report exported = exporttimeline("one/Classic.bd3", "deep/copy", false);
-    EXPECT_EQ(errors(exported.findings) + exported.said, "deep/copy: 11 people, 13 events");
+    fs::create_directory("odd/maps");
+    writefile("odd/maps/sack-of-luoyang.png", "another");
+    const std::string other = ".csv: error: stands there already and is another spreadsheet; name another place, or "
+                              "replace it with --overwrite\n";
+    EXPECT_EQ(errors(exporttimeline("one/Classic.bd3", "odd", false)),
+              "odd/maps/sack-of-luoyang.png: error: stands there already and is no picture, so it is not replaced\n"
+              "odd/people" +
+                  other + "odd/events" + other);
+    EXPECT_EQ(errors(exporttimeline("one/Classic.bd3", "deep/copy", false)), "deep/copy: 7 people, 8 events");
     EXPECT_EQ(contentof("deep/copy/maps/sack-of-luoyang.png"), "\x89PNG\r\n\x1A\n a map");
     fs::remove_all("deep/copy/maps"); // which would have to be a whole picture
-    ASSERT_EQ(errors(maketimeline("deep/copy", "two/Classic.bd3", false).findings), "");
-    EXPECT_EQ(contentof("two/Classic.bd3"), contentof("one/Classic.bd3"));
-    EXPECT_EQ(contentof("two/classic/own/a.bmp"), tests::bmpfile(40, 30));
-
     // Another timeline with pictures of the same names has a folder of its own.
-    ASSERT_EQ(errors(maketimeline("deep/copy", "one/Modern.bd3", false).findings), "");
+    for (const char* file : {"two/Classic.bd3", "one/Modern.bd3", "one/Classic.bd3"}) {
+        EXPECT_FALSE(haserrors(maketimeline("deep/copy", file, false).findings)) << file;
+    }
+    EXPECT_EQ(contentof("two/Classic.bd3"), contentof("one/Classic.bd3"));
+    EXPECT_EQ(contentof("two/classic/own/a.bmp"), bmpfile(40, 30));
     EXPECT_TRUE(fs::exists("one/modern/own/a.bmp"));
-    EXPECT_EQ(errors(maketimeline("deep/copy", "one/Classic.bd3", false).findings), "");
     fs::remove("deep/copy/own/a.bmp");
     fs::create_symlink("/etc/hostname", "deep/copy/own/a.bmp");
-    EXPECT_EQ(errors(maketimeline("deep/copy", "three/Classic.bd3", false).findings),
-              "deep/copy/events.csv:2: error: column 14 (picture): own/a.bmp cannot be opened: a link leads out of the "
+    EXPECT_EQ(errors(maketimeline("deep/copy", "three/Classic.bd3", false)),
+              "deep/copy/events.csv:3: error: column 14 (picture): own/a.bmp cannot be opened: a link leads out of the "
               "folder\n");
 }
 
 TEST_F(WritingTest, ExportTakesWhatAFileHolds)
 {
-    writefile("Old.bd3", "1\n1\n\n\nAl\xE9, the\n5, 2\n5\n2\nOne\nTwo\nThree\n1, 0\n p.bmp\n1, 1\n\n"
-                         "\nWar\n-3, 1\n4, 7\nA \"b\"\n\n\n1, 2, 1\n\n0, 0\n"
-                         "\n1\n\nRome\n9\n\n0\n\n1\n\nState\n9\n\n2\n\nGaul\n9\n\nRome\n9\n");
-    EXPECT_EQ(report(exporttimeline("Old.bd3", "out", false).findings), "");
-    EXPECT_EQ(contentof("out/people.csv"),
-              "\xEF\xBB\xBF" + tests::peopleheader() + "\"Alé, the\",5,reign,,,One,Two,Rome,\n");
-    EXPECT_EQ(contentof("out/events.csv"),
-              "\xEF\xBB\xBF" + tests::eventsheader() + "War,-3,ca.,4,7,\"A \"\"b\"\"\",,State,Rome,Gaul,,,,\n");
-    EXPECT_EQ(report(exporttimeline("Missing.bd3", "out", false).findings),
+    EXPECT_EQ(errors(exporttimeline(sample("old") + "/Old.bd3", "out", false)), "out: 1 person, 1 event");
+    EXPECT_EQ(contentof("out/people.csv"), contentof("old/people.csv"));
+    EXPECT_EQ(contentof("out/events.csv"), contentof("old/events.csv"));
+    EXPECT_EQ(errors(exporttimeline("Missing.bd3", "out", false)),
               "Missing.bd3: error: cannot be opened: No such file or directory. Put the file into the program's "
               "folder, or choose "
               "another period.\n");
-    writefile("Evil.bd3", "0\n1\n\n\n\nWar\n3, 0\n3, 0\nA\n\n\n0, 0, 0\n../.bashrc\n0, 0\n\n0\n\n0\n\n0\n\n0\n");
-    writefile(".bashrc", "mine");
-    EXPECT_EQ(report(exporttimeline("Evil.bd3", "evil", false).findings),
-              "Evil.bd3:6: error: picture: ../.bashrc: no part of it may be empty or begin with a dot\n");
+    EXPECT_EQ(errors(exporttimeline(sample("broken") + "/X.bd3", "evil", false)),
+              "evil/text.bmp: error: is not written, since the content is no picture\n"
+              "broken/X.bd3:86: error: picture: ../x.png: no part of it may be empty or begin with a dot\n");
     EXPECT_FALSE(fs::exists("evil"));
 }
 

@@ -18,8 +18,6 @@
 
 #include <QScrollArea>
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
 namespace brindor::tests {
@@ -28,15 +26,22 @@ namespace {
 
 QPoint middleof(QWidget& window, const std::string& control)
 {
-    auto* widget = window.findChild<QWidget*>(QString::fromStdString(control));
-    if (widget == nullptr) {
-        ADD_FAILURE() << "no " << control;
-        return {};
-    }
+    QWidget& widget = widgetin(window, control);
     if (auto* area = window.findChild<QScrollArea*>()) {
-        area->ensureWidgetVisible(widget);
+        area->ensureWidgetVisible(&widget);
     }
-    return widget->mapTo(&window, widget->rect().center());
+    return widget.mapTo(&window, widget.rect().center());
+}
+
+// Presses the mouse on one control and lets go over another.
+void drag(QWidget& window, const std::string& from, const std::string& to, bool letgo = true)
+{
+    mouse(window, middleof(window, from), middleof(window, to), letgo);
+}
+
+std::function<void(QWidget&)> clicks(const std::string& control)
+{
+    return [control](QWidget& window) { drag(window, control, control); };
 }
 
 std::function<void()> question(std::int16_t type, void (*play)())
@@ -48,39 +53,7 @@ std::function<void()> question(std::int16_t type, void (*play)())
     };
 }
 
-std::function<void(QWidget&)> clicks(const std::string& control)
-{
-    return [control](QWidget& window) { click(window, control); };
-}
-
 } // namespace
-
-void walk(const std::function<void()>& open, const std::vector<Step>& steps)
-{
-    std::size_t done = 0;
-    int waited = 0;
-    walk(open, [&](QWidget& front) {
-        constexpr int patience = 5000;
-        if (done == steps.size()) {
-            front.close();
-        } else if (front.objectName().toStdString() == steps[done].window) {
-            steps[done++].act(front);
-        } else if (++waited > patience) {
-            ADD_FAILURE() << steps[done].window << " did not come";
-            done = steps.size();
-        }
-    });
-}
-
-void click(QWidget& window, const std::string& control)
-{
-    drag(window, control, control);
-}
-
-void drag(QWidget& window, const std::string& from, const std::string& to, bool letgo)
-{
-    mouse(window, middleof(window, from), middleof(window, to), letgo);
-}
 
 std::vector<Exhibit> gallery()
 {

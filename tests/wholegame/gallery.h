@@ -8,16 +8,6 @@
 
 namespace brindor::tests {
 
-// What is done in a window once it is in front and shown.
-struct Step {
-    std::string window; // its name, "message" for a message
-    std::function<void(QWidget&)> act;
-};
-
-// Walks with steps that are done one after the other; then all windows that are left are closed. A window that does
-// not come fails the test.
-void walk(const std::function<void()>& open, const std::vector<Step>& steps);
-
 // Every screen of the game and its messages, with the Timeline that is loaded. The questions are drawn with a fixed
 // seed, so that the same Timeline gives the same pictures.
 struct Exhibit {
@@ -30,11 +20,5 @@ std::vector<Exhibit> gallery();
 
 // Shows the exhibit and looks at its window.
 void look(const Exhibit& exhibit, const std::function<void(QWidget& window)>& with);
-
-// A click in the middle of a control, as a mouse does it.
-void click(QWidget& window, const std::string& control);
-
-// Presses the mouse on one control and lets go over another.
-void drag(QWidget& window, const std::string& from, const std::string& to, bool letgo = true);
 
 } // namespace brindor::tests

@@ -12,46 +12,34 @@
 #include <QTest>
 
 #include <cstdio>
-#include <string>
 
-// Draws every screen, with the timelines of a game folder, into a folder: screenshots GAMEFOLDER INTO ZOOM [NAME].
-// With "max" behind the zoom the windows are maximised, with "half" half as large.
+// Draws every screen, with the timelines of a game folder, into another: screenshots GAMEFOLDER INTO ZOOM. With "max"
+// behind the zoom the windows are maximised.
 int main(int argc, char** argv)
 {
     using namespace brindor;
-    if (argc < 4) {
-        std::fputs("usage: screenshots GAMEFOLDER INTO ZOOM[max|half] [SCREEN]\n", stderr);
+    const QApplication application(argc, argv);
+    const QStringList given = QApplication::arguments();
+    const QString into = QDir(given.value(2)).absolutePath() + '/';
+    if (given.size() != 4 || !QDir().mkpath(into) || !enterdirectory(given[1].toStdString())) {
+        std::fputs("usage: screenshots GAMEFOLDER INTO ZOOM[max]\n", stderr);
         return 2;
     }
-    const QApplication application(argc, argv);
     toolkit::qt::dressapplication();
-    const std::string zoom = argv[3];
-    const std::string only = argc > 4 ? argv[4] : "";
-    const QString into = QDir(QString::fromLocal8Bit(argv[2])).absolutePath();
-    if (!QDir().mkpath(into) || !enterdirectory(argv[1])) {
-        std::fputs("The folders cannot be used.\n", stderr);
-        return 1;
-    }
     const toolkit::QtHost host;
-    toolkit::qt::setbasezoom(toolkit::qt::Zoom(std::stod(zoom)));
+    const bool maximised = given[3].endsWith("max");
+    toolkit::qt::setbasezoom(toolkit::qt::Zoom(given[3].left(given[3].size() - (maximised ? 3 : 0)).toDouble()));
     toolkit::qt::dressfonts();
     filltables();
     loadperiod();
+    int unwritten = 0;
     for (const tests::Exhibit& exhibit : tests::gallery()) {
-        if (!only.empty() && exhibit.name != only) {
-            continue;
-        }
         tests::look(exhibit, [&](QWidget& window) {
-            if (zoom.ends_with("max")) {
-                window.setWindowState(Qt::WindowMaximized);
-            } else if (zoom.ends_with("half")) {
-                window.resize(window.size() / 2);
-            }
-            QTest::qWait(zoom.find_first_not_of("0123456789.") == std::string::npos ? 20 : 400);
-            const QString file = into + '/' + QString::fromStdString(exhibit.name).replace(' ', '-') + ".png";
-            if (!window.grab().save(file)) {
-                std::fprintf(stderr, "%s cannot be written.\n", file.toLocal8Bit().constData());
-            }
+            window.setWindowState(maximised ? Qt::WindowMaximized : Qt::WindowNoState);
+            QTest::qWait(maximised ? 400 : 20);
+            unwritten +=
+                window.grab().save(into + QString::fromStdString(exhibit.name).replace(' ', '-') + ".png") ? 0 : 1;
         });
     }
+    return unwritten;
 }

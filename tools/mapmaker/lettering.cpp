@@ -48,9 +48,9 @@ Ground::Sums::Sums(const QSize& size)
 {
 }
 
-int& Ground::Sums::at(int x, int y)
+Ground::Sums::Row Ground::Sums::row(int y)
 {
-    return values_[index(x, y)];
+    return {&values_[index(1, y)], &values_[index(1, y + 1)], 0};
 }
 
 std::size_t Ground::Sums::index(int x, int y) const
@@ -73,18 +73,18 @@ int Ground::Sums::over(const QRect& box) const
 Ground::Ground(const QImage& picture, const QColor& water) : coast_(picture.size()), water_(picture.size())
 {
     const QRgb colour = water.rgb();
+    const int width = picture.width();
     for (int y = 0; y < picture.height(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
         const auto* above = reinterpret_cast<const QRgb*>(picture.constScanLine(std::max(y - 1, 0)));
-        int coastinrow = 0;
-        int waterinrow = 0;
-        for (int x = 0; x < picture.width(); ++x) {
+        Sums::Row coastrow = coast_.row(y);
+        Sums::Row waterrow = water_.row(y);
+        bool waswet = line[0] == colour;
+        for (int x = 0; x < width; ++x) {
             const bool wet = line[x] == colour;
-            const bool edge = wet != (line[std::max(x - 1, 0)] == colour) || wet != (above[x] == colour);
-            coastinrow += edge ? 1 : 0;
-            waterinrow += wet ? 1 : 0;
-            coast_.at(x + 1, y + 1) = coast_.at(x + 1, y) + coastinrow;
-            water_.at(x + 1, y + 1) = water_.at(x + 1, y) + waterinrow;
+            coastrow.add(wet != waswet || wet != (above[x] == colour));
+            waterrow.add(wet);
+            waswet = wet;
         }
     }
 }
@@ -194,14 +194,17 @@ Lettering::Candidate Lettering::candidateof(const View& view, const PlaceName& n
     constexpr double leastseen = 0.3; // so that the ocean at the edge of a map has its name too
     constexpr double full = 2 * std::numbers::pi;
     Candidate candidate{&name, {}, 0, 0};
+    if (!view.mayreach(name.middle, name.width / 2 + name.height / 2)) {
+        return candidate;
+    }
     for (int circle = 0; circle <= circles; ++circle) {
         for (int i = 0; i < (circle == 0 ? 1 : directions); ++i) {
             const double angle = full * i / directions;
             const double part = static_cast<double>(circle) / circles / 2;
             const Position at{name.middle.latitude + part * name.height * std::sin(angle),
                               name.middle.longitude + part * name.width * std::cos(angle)};
-            if (view.insees(at) && frame_.contains(view.point(at).toPoint())) {
-                candidate.places.push_back(view.point(at));
+            if (const std::optional<QPointF> place = view.seen(at); place && frame_.contains(place->toPoint())) {
+                candidate.places.push_back(*place);
             }
         }
     }

@@ -29,8 +29,21 @@ private:
     // Sums of all pixels above and left of each.
     class Sums {
     public:
+        // Fills a row from left to right, once the row above it is full.
+        struct Row {
+            const int* above;
+            int* next;
+            int sum;
+
+            void add(bool counts)
+            {
+                sum += counts ? 1 : 0;
+                *next++ = *above++ + sum;
+            }
+        };
+
         explicit Sums(const QSize& size);
-        int& at(int x, int y);
+        Row row(int y);
         int over(const QRect& box) const;
 
     private:

@@ -24,7 +24,7 @@ int main(int argc, char** argv)
     maps->add_option("PREFIX", prefix, "The timeline file's name, with or without .bd3")->required();
 
     CLI::App* title = app.add_subcommand("title", "Draw the background of the main screen");
-    title->add_option("OUTFILE", outfile, "The BMP file to write, as TITLE.BMP")->required();
+    title->add_option("OUTFILE", outfile, "The file to write, as TITLE.BMP; title.jpg for a JPEG file")->required();
 
     CLI::App* icons = app.add_subcommand("icons", "Draw the game's icon in all sizes");
     icons->add_option("OUTFOLDER", outfolder, "The folder for brindor-16.png to brindor-256.png and brindor.svg")

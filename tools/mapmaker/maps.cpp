@@ -3,6 +3,7 @@
 #include "authoring/eventpictures.h"
 #include "authoring/folder.h"
 #include "authoring/writing.h"
+#include "base/picturename.h"
 #include "base/text.h"
 #include "mapmaker/fonts.h"
 #include "mapmaker/icon.h"
@@ -78,7 +79,8 @@ Findings drawtitle(const std::string& outfile, bool overwrite)
     const std::optional<World> world = needed(readworld(), findings);
     needed(checkfonts(), findings);
     if (!haserrors(findings)) {
-        writing.add(outfile, bmpbytes(titlepicture(world->land)));
+        const QImage picture = titlepicture(world->land);
+        writing.add(outfile, endsin(outfile, "jpg") ? jpegbytes(picture) : bmpbytes(picture));
     }
     writing.commit();
     return findings;

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <span>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -24,14 +25,27 @@ constexpr std::array<Attempt, 4> attempts = {{{allcolours, 40}, {allcolours, 0},
 
 using Frequency = std::pair<QRgb, int>;
 
+std::span<const QRgb> lineof(const QImage& picture, int y)
+{
+    return {reinterpret_cast<const QRgb*>(picture.constScanLine(y)), static_cast<std::size_t>(picture.width())};
+}
+
+// How many pixels at the start of the line are alike.
+std::size_t firstrun(std::span<const QRgb> line)
+{
+    const auto end = std::find_if(line.begin(), line.end(), [&line](QRgb pixel) { return pixel != line.front(); });
+    return static_cast<std::size_t>(end - line.begin());
+}
+
 // The most frequent first; of equally frequent colours the one with the lower number.
 std::vector<Frequency> frequencies(const QImage& picture)
 {
     std::unordered_map<QRgb, int> counts;
     for (int y = 0; y < picture.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        for (int x = 0; x < picture.width(); ++x) {
-            ++counts[line[x]];
+        for (std::span<const QRgb> rest = lineof(picture, y); !rest.empty();) {
+            const std::size_t run = firstrun(rest);
+            counts[rest.front()] += static_cast<int>(run);
+            rest = rest.subspan(run);
         }
     }
     std::vector<Frequency> sorted(counts.begin(), counts.end());
@@ -91,10 +105,11 @@ QImage indexed(const QImage& picture, const std::vector<Frequency>& colours, con
     QImage result(picture.size(), QImage::Format_Indexed8);
     result.setColorTable(palette);
     for (int y = 0; y < picture.height(); ++y) {
-        const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
         uchar* to = result.scanLine(y);
-        for (int x = 0; x < picture.width(); ++x) {
-            to[x] = indices.at(from[x]);
+        for (std::span<const QRgb> rest = lineof(picture, y); !rest.empty();) {
+            const std::size_t run = firstrun(rest);
+            to = std::fill_n(to, run, indices.at(rest.front()));
+            rest = rest.subspan(run);
         }
     }
     return result;
@@ -138,6 +153,12 @@ std::string bmpbytes(const QImage& picture)
 {
     constexpr int ordinary = -1;
     return saved(picture.convertToFormat(QImage::Format_RGB32), "BMP", ordinary);
+}
+
+std::string jpegbytes(const QImage& picture)
+{
+    constexpr int fine = 82;
+    return saved(picture.convertToFormat(QImage::Format_RGB32), "JPEG", fine);
 }
 
 } // namespace brindor::mapmaker

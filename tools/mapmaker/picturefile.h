@@ -22,4 +22,7 @@ std::string fullpngbytes(const QImage& picture);
 // The picture as a BMP file with 24 bits a pixel.
 std::string bmpbytes(const QImage& picture);
 
+// The picture as a JPEG file, in a quality that shows no loss to the eye.
+std::string jpegbytes(const QImage& picture);
+
 } // namespace brindor::mapmaker

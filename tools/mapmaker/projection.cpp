@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace brindor::mapmaker {
 
@@ -74,6 +75,18 @@ bool View::insees(const Position& position) const
     return local(vectorof(position)).up > capup_;
 }
 
+std::optional<QPointF> View::seen(const Position& position) const
+{
+    const Local at = local(vectorof(position));
+    return at.up > capup_ ? std::optional(onplane(at)) : std::nullopt;
+}
+
+bool View::mayreach(const Position& middle, double reach) const
+{
+    const double away = std::acos(std::clamp(dot(vectorof(middle), up_), -1.0, 1.0));
+    return away - reach * degree < cap_;
+}
+
 Position View::position(const QPointF& point) const
 {
     const QPointF offset = (point - middle_) / scale_;
@@ -88,24 +101,33 @@ Position View::position(const QPointF& point) const
                        east * east_.z + north * north_.z + up * up_.z});
 }
 
-// What lies beyond the cap runs along the edge of the disc, always the shorter way round.
+// What lies beyond the cap runs along the edge of the disc, always the shorter way round. Where the disc is larger than
+// the picture, the path follows only when the ring comes back: to and fro out there would be most of its points.
 void View::addring(QPainterPath& path, const Ring& ring) const
 {
     const auto azimuth = [](const Local& point) { return std::atan2(point.north, point.east); };
-    const auto alongedge = [&](double from, double to) {
-        constexpr double step = 5 * degree;
-        const double way = wrappedazimuth(to - from);
-        for (double gone = step; gone < std::abs(way); gone += step) {
-            path.lineTo(onedge(from + std::copysign(gone, way)));
-        }
-        path.lineTo(onedge(to));
-    };
     const auto crossing = [this](const Local& a, const Local& b) {
         const double part = (capup_ - a.up) / (b.up - a.up);
         return Local{a.east + part * (b.east - a.east), a.north + part * (b.north - a.north), capup_};
     };
     Local before = local(ring.points.back());
     path.moveTo(onplane(before));
+    double left = azimuth(before); // where the path is on the edge, once it has come there
+    double way = 0;                // from there along the edge
+    const auto follow = [&] {
+        constexpr double step = 5 * degree;
+        for (double gone = step; gone < std::abs(way); gone += step) {
+            path.lineTo(onedge(left + std::copysign(gone, way)));
+        }
+        left += std::exchange(way, 0);
+        path.lineTo(onedge(left));
+    };
+    const auto move = [&](const Local& point) {
+        way += wrappedazimuth(azimuth(point) - left - way);
+        if (projection_ == Projection::stereographic) {
+            follow();
+        }
+    };
     for (const Vector& point : ring.points) {
         const Local next = local(point);
         const bool wasin = before.up > capup_;
@@ -116,16 +138,21 @@ void View::addring(QPainterPath& path, const Ring& ring) const
                 path.lineTo(place);
             }
         } else if (wasin) {
-            const double edge = azimuth(crossing(before, next));
-            path.lineTo(onedge(edge));
-            alongedge(edge, azimuth(next));
+            left = azimuth(crossing(before, next));
+            way = 0;
+            path.lineTo(onedge(left));
+            move(next);
         } else if (isin) {
-            alongedge(azimuth(before), azimuth(crossing(before, next)));
+            move(crossing(before, next));
+            follow();
             path.lineTo(onplane(next));
         } else {
-            alongedge(azimuth(before), azimuth(next));
+            move(next);
         }
         before = next;
+    }
+    if (before.up <= capup_) {
+        follow();
     }
     path.closeSubpath();
 }
@@ -191,14 +218,13 @@ void View::addline(QPainterPath& path, const Position& from, const Position& to)
         const double part = static_cast<double>(i) / pieces;
         const Position at{from.latitude + part * (to.latitude - from.latitude),
                           from.longitude + part * (to.longitude - from.longitude)};
-        if (!insees(at)) {
-            drawing = false;
-        } else if (drawing) {
-            path.lineTo(point(at));
-        } else {
-            path.moveTo(point(at));
-            drawing = true;
+        const std::optional<QPointF> place = seen(at);
+        if (place && drawing) {
+            path.lineTo(*place);
+        } else if (place) {
+            path.moveTo(*place);
         }
+        drawing = place.has_value();
     }
 }
 

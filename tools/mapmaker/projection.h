@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
+#include <optional>
 
 // From the globe to the plane.
 namespace brindor::mapmaker {
@@ -12,8 +13,8 @@ namespace brindor::mapmaker {
 enum class Islets { dots, omitted };
 
 enum class Projection {
-    equalarea,    // Lambert's azimuthal one, for maps of regions
-    stereographic // for hemispheres
+    equalarea,    // Lambert's azimuthal one, for maps of regions inside the disc
+    stereographic // for hemispheres, whose edge is seen
 };
 
 // A look at the globe from straight above `centre`: a cap of the sphere around it, drawn as a disc. North is up at
@@ -28,7 +29,9 @@ public:
     double pixelsperdegree() const;                // at the centre
     QPointF point(const Position& position) const; // one beyond the cap comes to the edge of the disc
     bool insees(const Position& position) const;
-    Position position(const QPointF& point) const; // of a point on the disc
+    std::optional<QPointF> seen(const Position& position) const; // the point of what the cap holds
+    bool mayreach(const Position& middle, double reach) const;   // whether it may hold anything so many degrees about
+    Position position(const QPointF& point) const;               // of a point on the disc
 
     // The land inside the cap, to be filled by the odd-even rule. Islands that would hardly be seen are drawn as dots
     // or left out.

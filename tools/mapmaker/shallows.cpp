@@ -20,41 +20,37 @@ public:
         : stride_(image.width() + 2),
           values_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(image.height() + 2), far)
     {
-        for (int y = 0; y < image.height(); ++y) {
+        const int width = image.width();
+        const int height = image.height();
+        for (int y = 0; y < height; ++y) {
             const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-            for (int x = 0; x < image.width(); ++x) {
-                values_[index(x, y)] = line[x] == water ? far : 0;
+            std::transform(line, line + width, row(y), [water](QRgb pixel) { return pixel == water ? far : 0; });
+        }
+        for (int y = 0; y < height; ++y) {
+            for (int* value = row(y); value != row(y) + width; ++value) {
+                reach(value, -1);
             }
         }
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                reach(x, y, -1);
-            }
-        }
-        for (int y = image.height() - 1; y >= 0; --y) {
-            for (int x = image.width() - 1; x >= 0; --x) {
-                reach(x, y, 1);
+        for (int y = height - 1; y >= 0; --y) {
+            for (int* value = row(y) + width - 1; value != row(y) - 1; --value) {
+                reach(value, 1);
             }
         }
     }
 
-    int at(int x, int y) const { return values_[index(x, y)]; }
+    // The distances of the picture's row, the next pixel's behind each.
+    int* row(int y) { return &values_[static_cast<std::size_t>(y + 1) * static_cast<std::size_t>(stride_) + 1]; }
 
 private:
-    std::size_t index(int x, int y) const
-    {
-        return static_cast<std::size_t>(y + 1) * static_cast<std::size_t>(stride_) + static_cast<std::size_t>(x + 1);
-    }
-
     // From the neighbours that the way `step` through the picture has passed.
-    void reach(int x, int y, int step)
+    void reach(int* value, std::ptrdiff_t step) const
     {
-        int& value = values_[index(x, y)];
-        value = std::min({value, at(x + step, y) + unit, at(x, y + step) + unit, at(x + step, y + step) + across,
-                          at(x - step, y + step) + across});
+        const int* next = value + step * stride_; // in the row that was passed
+        const int nearest = std::min({value[step] + unit, *next + unit, next[step] + across, next[-step] + across});
+        *value = std::min(*value, nearest);
     }
 
-    int stride_;
+    std::ptrdiff_t stride_;
     std::vector<int> values_;
 };
 
@@ -62,11 +58,13 @@ private:
 
 void shadewater(QImage& image, const QColor& water, std::span<const Shallows> bands)
 {
-    const Distances distances(image, water.rgb());
+    Distances distances(image, water.rgb());
+    const int width = image.width();
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const int distance = distances.at(x, y);
+        const int* from = distances.row(y);
+        for (int x = 0; x < width; ++x) {
+            const int distance = from[x];
             const auto band = std::find_if(bands.begin(), bands.end(),
                                            [distance](const Shallows& wide) { return distance <= wide.width * unit; });
             if (distance > 0 && band != bands.end()) {

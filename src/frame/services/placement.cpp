@@ -20,7 +20,7 @@ std::int32_t colournumber(const toolkit::Colour& colour)
 
 void placeform(toolkit::Screen& screen, std::int16_t row, std::int16_t action)
 {
-    if (row < 0 || static_cast<std::size_t>(row) >= placements.size()) {
+    if (static_cast<std::size_t>(row) >= placements.size()) { // a negative one is among them
         return;
     }
     FormPlacement& placement = placements[static_cast<std::size_t>(row)];

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QPixmapCache>
 #include <QPlainTextEdit>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -131,6 +132,9 @@ public:
 
 void dressapplication()
 {
+    // The style keeps pictures of its scroll bars there by palette, and each window has palettes of its own.
+    constexpr int kibibytes = 256;
+    QPixmapCache::setCacheLimit(kibibytes);
     QApplication::setStyle(new PlainStyle);
     const QPalette palette = plainpalette();
     QApplication::setPalette(palette);

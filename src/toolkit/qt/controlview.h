@@ -20,8 +20,7 @@ public:
     // Brings the widget up to date with every field of the record; raises nothing.
     void refresh();
 
-    // Whether the control's text wraps, and the height in pixels that it then needs at a width to be shown whole.
-    virtual bool wraps() const = 0;
+    // The height in pixels that the text needs at a width to be shown whole; 0 where it does not wrap.
     virtual int heightfor(int width) = 0;
 
     // A bar that is being dragged has come over the control, or has left it.
@@ -55,11 +54,10 @@ public:
     ViewOf(Record& record, QWidget* parent) : ViewOf(new Widget(record, parent), record)
     {
     }
-    bool wraps() const override { return wrapping; }
 
     int heightfor(int width) override
     {
-        if constexpr (wrapping) {
+        if constexpr (requires(Widget & widget) { widget.heightneeded(1); }) {
             return own_.heightneeded(width);
         } else {
             return 0;
@@ -77,8 +75,6 @@ protected:
     void refreshkind() override { own_.refresh(); }
 
 private:
-    static constexpr bool wrapping = requires(Widget & widget) { widget.heightneeded(1); };
-
     ViewOf(Widget* widget, Control& control) : ControlView(control, widget), own_(*widget) {}
 
     Widget& own_;

@@ -1,3 +1,4 @@
+#include "toolkit/layout.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/clicklabel.h"
 #include "toolkit/qt/controlview.h"
@@ -85,12 +86,10 @@ private:
     // A coloured surface keeps its text off the edge; a plain one lines its text up with what stands above it.
     QMargins inner() const
     {
-        const Colour around = label_.container == nullptr ? label_.screen->back : label_.container->back;
-        const bool surface = label_.outlined || (label_.opaque && label_.back != around);
         const Zoom zoom = zoomof(*this);
         const int side = zoom.length(textmargin);
         const int top = zoom.length(topmargin);
-        return surface ? QMargins(side, top, side, top) : QMargins();
+        return issurface(label_) ? QMargins(side, top, side, top) : QMargins();
     }
 
     // Letters can be read on whatever picture the player has chosen.

@@ -1,3 +1,4 @@
+#include "toolkit/layout.h"
 #include "toolkit/qt/access.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/controlview.h"
@@ -122,11 +123,8 @@ protected:
     void nextCheckState() override {} // the record says which one is selected
 
 private:
-    bool iscard() const
-    {
-        const Colour around = option_.container == nullptr ? option_.screen->back : option_.container->back;
-        return option_.opaque && option_.back != around;
-    }
+    bool iscard() const { return issurface(option_); }
+
     // Tab goes to the selected one of its container, or to each where none is selected.
     void settabstop()
     {

@@ -12,7 +12,9 @@ namespace brindor::toolkit::qt {
 
 namespace {
 
-constexpr int allocationlimit = 128; // MiB, for one picture while it is decoded
+// For one picture while it is decoded: the most pixels that a picture may have, four bytes each.
+constexpr std::int64_t mostbytes = 4 * mostpixels;
+constexpr int allocationlimit = static_cast<int>(mostbytes >> 20U) + 1; // MiB
 
 LoadedPicture failed(PictureError error)
 {
@@ -25,6 +27,13 @@ PictureError whyunread(const std::string& reason)
         return picturetoolarge;
     }
     return reason == notregularreason ? picturenotafile : picturenotfound;
+}
+
+// `format` is how the picture is decoded: some have more than four bytes a pixel.
+bool istoolarge(QSize size, QImage::Format format)
+{
+    const std::int64_t pixels = size.isValid() ? std::int64_t{size.width()} * size.height() : 0;
+    return pixels > mostpixels || pixels * QImage::toPixelFormat(format).bitsPerPixel() / 8 > mostbytes;
 }
 
 } // namespace
@@ -46,7 +55,7 @@ LoadedPicture loadpicturefile(const std::string& file)
     reader.setAutoTransform(true); // a photograph that carries a rotation mark is shown upright
     const bool turned = (reader.transformation() & QImageIOHandler::TransformationRotate90) != 0;
     const QSize size = reader.size();
-    if (size.isValid() && qint64{size.width()} * size.height() > mostpixels) {
+    if (istoolarge(size, reader.imageFormat())) {
         return failed(picturetoolarge);
     }
     if (std::max(size.width(), size.height()) > longestside) {

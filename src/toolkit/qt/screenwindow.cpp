@@ -24,16 +24,9 @@ namespace {
 constexpr double leasttextwidth = 32; // a text is never squeezed below this
 constexpr double endmargin = 8;       // between the outermost control and the edge that is scrolled to
 
-bool isbar(const Control& control)
+PixelRect ofqt(const QRect& rect)
 {
-    return control.kind == Kind::button && static_cast<const Button&>(control).bar;
-}
-
-// A label without a surface or an edge of its own.
-bool isplainlabel(const Control& control)
-{
-    return control.kind == Kind::label && control.opaque && !static_cast<const Label&>(control).outlined &&
-           control.back == (control.container == nullptr ? control.screen->back : control.container->back);
+    return {rect.left(), rect.top(), rect.width(), rect.height()};
 }
 
 QEvent::Type layoutevent()
@@ -246,53 +239,30 @@ void ScreenWindow::requestlayout()
     }
 }
 
-std::vector<Box> ScreenWindow::boxesin(const Frame* container) const
-{
-    std::vector<Box> boxes;
-    for (const Control* control : screen_.controls) {
-        if (control->container != container) {
-            continue;
-        }
-        ControlView* view = views_.at(control);
-        Box& box = boxes.emplace_back();
-        box.control = control;
-        box.record = zoom_.pixels(control->place);
-        box.visible = control->visible;
-        if (control->kind == Kind::frame) {
-            const auto& frame = static_cast<const Frame&>(*control);
-            box.container = true;
-            box.counts = frame.border;
-            box.children = boxesin(&frame);
-        } else if (isbar(*control)) {
-            box.fillsrow = rowof(static_cast<const Button&>(*control)) != nullptr;
-            box.heightfor = [view](int width) { return view->heightfor(width); };
-        } else if (view->wraps()) {
-            box.narrows = isplainlabel(*control) && screen_.resize != nullptr;
-            box.heightfor = [view](int width) { return view->heightfor(width); };
-        }
-    }
-    return boxes;
-}
-
 void ScreenWindow::layoutcontrols()
 {
     layoutrequested_ = false;
-    const QSize seen = area_->maximumViewportSize();
-    std::vector<Box> boxes = boxesin(nullptr);
+    const QSize viewport = area_->maximumViewportSize();
+    const PixelSize seen{viewport.width(), viewport.height()};
+    const Measures measures{
+        [this](const Place& place) { return ofqt(zoom_.pixels(place)); },
+        [this](const Control& control, int width) { return views_.at(&control)->heightfor(width); }};
+    std::vector<Box> boxes = boxesof(screen_, measures);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_->verticalScrollBar());
     arrange(boxes, seen, {zoom_.length(leasttextwidth), bar + zoom_.length(endmargin)});
     // What places itself stands in the middle where the whole window is more than its zoom could fill.
     const bool centred = !screen_.resize || (state_ == maximised && screen_.backdrop == nullptr);
     const CanvasPlan plan =
         screen_.scrolls ? plancanvas(boxes, seen, bar, zoom_.length(endmargin), centred) : CanvasPlan{seen, {}};
-    canvas_->resize(plan.canvas);
+    canvas_->resize(plan.canvas.width, plan.canvas.height);
     put(boxes, plan.origin);
 }
 
-void ScreenWindow::put(const std::vector<Box>& boxes, QPoint origin)
+void ScreenWindow::put(const std::vector<Box>& boxes, PixelPoint origin)
 {
     for (const Box& box : boxes) {
-        QRect rect = box.placed.translated(origin);
+        const PixelRect at = box.placed.moved(origin);
+        QRect rect(at.left, at.top, at.width, at.height);
         if (!screen_.scrolls && box.control->kind == Kind::picture) {
             rect = rect.intersected(canvas_->rect());
         }

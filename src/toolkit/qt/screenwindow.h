@@ -1,7 +1,7 @@
 #pragma once
 
 #include "toolkit/controls.h"
-#include "toolkit/qt/layout.h"
+#include "toolkit/layout.h"
 #include "toolkit/qt/windowsize.h"
 
 #include <QElapsedTimer>
@@ -56,8 +56,7 @@ private:
     void setfirstfocus();
     void requestlayout();
     void layoutcontrols();
-    std::vector<Box> boxesin(const Frame* container) const;
-    void put(const std::vector<Box>& boxes, QPoint origin);
+    void put(const std::vector<Box>& boxes, PixelPoint origin);
     void turnpage(int direction);
 
     // windowgeometry.cpp: size, place, state and zoom
