@@ -58,6 +58,12 @@ double textvalue(std::string_view text);
 // A number in decimal with up to 15 significant digits and no trailing zeros: 12.50 becomes "12.5".
 std::string decimaltext(double number);
 
+// The text between two places in another. The view's own constructor is missing in some libraries.
+inline std::string_view between(const char* begin, const char* end)
+{
+    return {begin, static_cast<std::size_t>(end - begin)};
+}
+
 // Values on a line stand between commas, blanks and tabs.
 inline bool separates(char c)
 {
@@ -67,10 +73,11 @@ inline bool separates(char c)
 // Takes the next value off a line. Empty where none is left.
 inline std::string_view takevalue(std::string_view& line)
 {
-    const auto begin = std::find_if_not(line.begin(), line.end(), separates);
-    const auto end = std::find_if(begin, line.end(), separates);
-    line = {end, line.end()};
-    return {begin, end};
+    const char* const lineend = line.data() + line.size();
+    const char* const begin = std::find_if_not(line.data(), lineend, separates);
+    const char* const end = std::find_if(begin, lineend, separates);
+    line = between(end, lineend);
+    return between(begin, end);
 }
 
 // The part of `text` behind a UTF-8 byte order mark, or all of it.

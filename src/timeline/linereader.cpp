@@ -40,7 +40,7 @@ Result<LineReader> LineReader::open(const std::string& filename)
     if (!reader.fill()) {
         return {std::nullopt, reader.failure_};
     }
-    reader.at_ = withoutmark({reader.at_, reader.end_}).data();
+    reader.at_ = withoutmark(between(reader.at_, reader.end_)).data();
     return {std::move(reader), {}};
 }
 

@@ -30,7 +30,7 @@ public:
         if (end == nullptr && !readon(end, expected)) {
             return std::nullopt;
         }
-        std::string_view text(at_, end);
+        std::string_view text = between(at_, end);
         at_ = end + 1;
         ++lines_;
         if (text.ends_with('\r')) {

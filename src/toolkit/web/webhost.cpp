@@ -7,13 +7,13 @@
 #include "toolkit/web/wire.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace brindor::toolkit {
 
 using web::Event;
 using web::object;
+using web::pixels;
 using web::twipsinpixel;
 
 namespace {
@@ -23,21 +23,6 @@ constexpr int scrollbar = 15;                              // pixels
 constexpr int leasttextwidth = 32;
 constexpr int endmargin = 8;
 constexpr std::size_t longestviewed = std::size_t{1} << 20; // bytes of a text to view
-
-int pixels(double twips)
-{
-    constexpr double limit = 30000;
-    const double exact = twips / twipsinpixel;
-    return std::isnan(exact) ? 0 : static_cast<int>(std::lround(std::clamp(exact, -limit, limit)));
-}
-
-PixelRect pixelsof(const Place& place)
-{
-    const int left = pixels(place.left);
-    const int top = pixels(place.top);
-    return {left, top, std::max(0, pixels(place.left + place.width) - left),
-            std::max(0, pixels(place.top + place.height) - top)};
-}
 
 // Where the boxes stand in their containers: five numbers each, the first the control's.
 void collectplaces(const Screen& screen, const std::vector<Box>& boxes, PixelPoint origin, std::vector<int>& places)
@@ -168,7 +153,7 @@ void WebHost::flush(Window& window)
 void WebHost::layout(const Window& window)
 {
     const Screen& screen = *window.screen;
-    const Measures measures{pixelsof, [&](const Control& control, int width) {
+    const Measures measures{web::pixelsof, [&](const Control& control, int width) {
                                 return web::measure(window.serial, web::indexof(screen, &control), width);
                             }};
     const PixelSize seen{pixels(screen.width - frame.width), pixels(screen.height - frame.height)};

@@ -1,7 +1,6 @@
 #include "toolkit/web/wire.h"
 
 #include "base/text.h"
-#include "toolkit/layout.h"
 #include "toolkit/operations.h"
 #include "toolkit/web/page.h"
 
@@ -20,11 +19,6 @@ std::string array(const std::vector<Value>& values)
         result += (result.size() > 1 ? "," : "") + jsontext(value);
     }
     return result + ']';
-}
-
-int pixels(double twips)
-{
-    return static_cast<int>(std::lround(twips / twipsinpixel));
 }
 
 // A point is 1/72 of an inch and a pixel 1/96.
@@ -103,6 +97,21 @@ std::string kindtext(const Control& control)
 }
 
 } // namespace
+
+int pixels(double twips)
+{
+    constexpr double limit = 30000;
+    const double exact = twips / twipsinpixel;
+    return std::isnan(exact) ? 0 : static_cast<int>(std::lround(std::clamp(exact, -limit, limit)));
+}
+
+PixelRect pixelsof(const Place& place)
+{
+    const int left = pixels(place.left);
+    const int top = pixels(place.top);
+    return {left, top, std::max(0, pixels(place.left + place.width) - left),
+            std::max(0, pixels(place.top + place.height) - top)};
+}
 
 std::string jsontext(std::string_view text)
 {
@@ -183,12 +192,12 @@ std::string screentext(int window, const Screen& screen)
 std::string controltext(int window, const Control& control)
 {
     const Screen& screen = *control.screen;
-    const std::string all =
-        object("window", window, "control", indexof(screen, &control), "name", control.name, "in",
-               indexof(screen, control.container), "text", control.text, "tip", control.tooltip, "says", control.says,
-               "back", control.back, "fore", control.fore, "face", static_cast<int>(control.font.face), "size",
-               fontpixels(control.font), "bold", control.font.bold, "visible", control.visible, "enabled",
-               control.enabled, "opaque", control.opaque, "surface", issurface(control));
+    const std::string all = object(
+        "window", window, "control", indexof(screen, &control), "name", control.name, "in",
+        indexof(screen, control.container), "text", control.text, "tip", control.tooltip, "says", control.says, "back",
+        control.back, "fore", control.fore, "face", static_cast<int>(control.font.face), "size",
+        fontpixels(control.font), "bold", control.font.bold, "visible", control.visible, "enabled", control.enabled,
+        "opaque", control.opaque, "wide", pixelsof(control.place).width, "surface", issurface(control));
     return joined(all, kindtext(control));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/controls.h"
+#include "toolkit/layout.h"
 
 #include <cstddef>
 #include <string>
@@ -9,6 +10,9 @@
 
 // How records go to the page: as the text of a JSON object.
 namespace brindor::toolkit::web {
+
+int pixels(double twips); // of the page; put to 30,000 at the most
+PixelRect pixelsof(const Place& place);
 
 std::string jsontext(std::string_view text); // any bytes, as UTF-8
 std::string jsontext(const char* text);

@@ -1,6 +1,6 @@
 import { nextevent, tell } from './queue.js';
 import { fetchpicture, forgetpicture } from './pictures.js';
-import { measure, pagesize, show, watchpage } from './windows.js';
+import { measure, pagesize, settlefocus, show, watchpage } from './windows.js';
 import { askmessage, viewtext } from './messages.js';
 import { keepfiles, readyfiles, showtools } from './files.js';
 import './keys.js';
@@ -23,6 +23,7 @@ function ended(words) {
 const page = {
     nextevent() {
         keepfiles();
+        settlefocus();
         return nextevent();
     },
     fetchpicture,

@@ -163,13 +163,12 @@ function present(win) {
         win.section.setAttribute('aria-describedby', words.root.id);
     }
     // Not an option that answers by itself to a Space that nobody meant.
-    const first = win.views.find(({ active, record }) => record.visible && record.enabled && active.tabIndex >= 0 &&
-        !(record.kind === 'option' && !record.presses) && active.checkVisibility?.() !== false);
+    const isseen = ({ record }) => record.visible && (record.in < 0 || isseen(win.views[record.in]));
+    const first = win.views.find((view) => isseen(view) && view.record.enabled && view.active.tabIndex >= 0 &&
+        !(view.record.kind === 'option' && !view.record.presses));
     // A field would bring up the keyboard of a device that is touched.
     if (first && !(touched.matches && ['textbox', 'combo'].includes(first.record.kind))) {
-        bring(win, first);
-    } else {
-        document.activeElement?.blur();
+        win.focus = first.record.control;
     }
 }
 
@@ -179,7 +178,15 @@ function drop(win) {
     const below = topwindow();
     if (below) {
         below.section.inert = false;
-        bring(below, below.views[below.focus]);
+    }
+}
+
+// Puts the focus where the window on top has it, before the page is waited for: not in each window that comes and goes
+// on the way there.
+export function settlefocus() {
+    const win = topwindow();
+    if (win && !document.querySelector('dialog[open]') && !win.section.contains(document.activeElement)) {
+        bring(win, win.views[win.focus]);
     }
 }
 
@@ -201,15 +208,30 @@ export function show(change) {
     }
 }
 
+// What a text's height depends on.
+function lookof({ text, size, bold, face, surface, textwidth, visible }, width) {
+    return [width, size, bold, face, surface, textwidth, visible, narrow.matches, text].join();
+}
+
+// The height that a text needs at a width. All texts of a window that have changed are measured together, at the widths
+// of their records: the browser then lays the window out once, and not once for each.
 export function measure(serial, index, width) {
-    const { root } = windows.get(serial).views[index];
-    const { width: wide, height: high } = root.style;
-    root.style.width = `${width}px`;
-    root.style.height = 'auto';
-    const height = root.offsetHeight;
-    root.style.width = wide;
-    root.style.height = high;
-    return height;
+    const { views } = windows.get(serial);
+    const wanted = views[index];
+    const widthof = (view) => (view === wanted ? width : view.record.wide);
+    if (wanted.measured !== lookof(wanted.record, width)) {
+        const fresh = views.filter((view) => ['label', 'button', 'bar', 'option'].includes(view.record.kind) &&
+            view.measured !== lookof(view.record, widthof(view)));
+        for (const view of fresh) {
+            view.root.style.width = `${widthof(view)}px`;
+            view.root.style.height = 'auto';
+        }
+        for (const view of fresh) {
+            view.needs = view.root.offsetHeight;
+            view.measured = view.needs > 0 ? lookof(view.record, widthof(view)) : '';
+        }
+    }
+    return wanted.needs;
 }
 
 // A person brought the focus to a control.
