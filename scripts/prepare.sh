@@ -6,6 +6,7 @@ build_packages=(g++ cmake ninja-build qt6-base-dev libfontconfig-dev libcsv-dev 
 test_packages=(clang-format libgtest-dev librapidcheck-dev)
 lint_packages=(clang-tidy shellcheck)
 web_packages=(emscripten esbuild nodejs python3)
+web_test_packages=(chromium googletest)
 package_packages=(dpkg-dev file gzip)
 display_packages=(xvfb openbox x11vnc)
 

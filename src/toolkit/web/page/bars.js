@@ -102,23 +102,14 @@ export function makebar(win, record) {
             describe(win);
         },
     };
-    let pointed = false; // the click to come belongs to a press that has been told
     root.addEventListener('pointerdown', (down) => {
         if (down.button === 0) {
-            pointed = true;
             tell(win.serial, 'press', record.control);
             drag(win, view, down);
         }
     });
-    root.addEventListener('keydown', () => {
-        pointed = false;
-    });
-    root.addEventListener('click', () => {
-        if (!pointed) {
-            tell(win.serial, 'click', record.control);
-        }
-        pointed = false;
-    });
+    // A pointer's click has been told with its press, whatever came of that.
+    root.addEventListener('click', (event) => event.detail === 0 && tell(win.serial, 'click', record.control));
     return view;
 }
 

@@ -55,13 +55,22 @@ function makeoption(win, record) {
         }
     });
     root.addEventListener('contextmenu', (event) => record.presses && event.preventDefault());
-    input.addEventListener('click', () => {
+    input.addEventListener('click', (event) => {
         const by = pointer;
         pointer = '';
         if (!record.presses || by === '') {
             tell(win.serial, 'click', record.control);
-        } else if (by !== 'mouse') {
+            return;
+        }
+        event.preventDefault(); // a press marks nothing
+        if (by !== 'mouse') {
             tell(win.serial, 'press', record.control);
+        }
+    });
+    input.addEventListener('keydown', (event) => {
+        pointer = '';
+        if (event.key === ' ' && input.checked && !event.repeat) { // browsers say nothing of it
+            tell(win.serial, 'click', record.control);
         }
     });
     return {

@@ -3,6 +3,7 @@ import { fetchpicture, forgetpicture } from './pictures.js';
 import { measure, pagesize, settlefocus, show, watchpage } from './windows.js';
 import { askmessage, viewtext } from './messages.js';
 import { keepfiles, readyfiles, showtools } from './files.js';
+import { keepondevice } from './offline.js';
 import './keys.js';
 
 // Starts the program and is its page: the other half of toolkit/web/page.h.
@@ -20,10 +21,17 @@ function ended(words) {
     again.focus();
 }
 
+let started = false; // what the start needs has come
+
 const page = {
+    tell,
     nextevent() {
         keepfiles();
         settlefocus();
+        if (!started) {
+            started = true;
+            keepondevice();
+        }
         return nextevent();
     },
     fetchpicture,

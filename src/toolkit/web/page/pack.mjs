@@ -1,6 +1,6 @@
 // Puts the page together: node pack.mjs PROGRAM DATA OUT
-// PROGRAM has brindor-web.js and .wasm, DATA what the data of a native build is made in; OUT gets the folder site/, for
-// any static server, and brindor.html, one file with everything but the maps.
+// PROGRAM has brindor-web.js and .wasm, DATA what the data of a native build is made in, with the icons beside it; OUT
+// gets the folder site/, for any static server, and brindor.html, one file with everything but the maps.
 import { execFileSync } from 'node:child_process';
 import { cpSync, mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { dirname, join } from 'node:path';
@@ -32,16 +32,25 @@ for (const name of ['brindor-web.js', 'brindor-web.wasm']) {
 for (const name of Object.keys(fetched)) {
     cpSync(join(data, name === 'title.jpg' ? 'web' : 'made', name), join(site, name));
 }
+cpSync(join(page, 'manifest.webmanifest'), join(site, 'manifest.webmanifest'));
+for (const name of ['brindor.svg', 'brindor-256.png']) {
+    cpSync(join(data, '..', 'icons', name), join(site, name));
+}
 for (const period of periods) {
     const maps = join(period.replace('.bd3', '').toLowerCase(), 'maps');
     cpSync(join(data, 'made', maps), join(site, maps), { recursive: true });
 }
 
+execFileSync('node', [join(page, 'version.mjs'), site]);
+
 // Everything in one: what would be fetched stands in the page as data addresses.
 const embedded = Object.entries({ ...fetched, 'brindor-web.wasm': 'application/wasm' }).map(([name, type]) =>
     [name, `data:${type};base64,${readFileSync(join(site, name), 'base64')}`]);
 const script = (text) => `<script>${text.replaceAll('</script', '<\\/script')}</script>`;
+const icon = `data:image/svg+xml;base64,${readFileSync(join(site, 'brindor.svg'), 'base64')}`;
 const whole = files['index.html']
+    .replace(/<link rel="(apple-touch-icon|manifest)".*\n/g, '')
+    .replace('brindor.svg', () => icon)
     .replace('<link rel="stylesheet" href="style.css">', () => `<style>${files['style.css']}</style>`)
     .replace('<script src="brindor-web.js"></script>', () =>
         script(`embedded=${JSON.stringify(Object.fromEntries(embedded))}`) +
