@@ -1,7 +1,7 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 # Sourced by the other scripts, which set `root` to the project's folder first. Debian 12 or newer.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libcsv-dev libcli11-dev libexif-dev libicu-dev libstb-dev libzip-dev
+build_packages=(g++ cmake ninja-build qt6-base-dev libfontconfig-dev libcsv-dev libcli11-dev libexif-dev libicu-dev libstb-dev libzip-dev
                 fonts-liberation fonts-dejavu-core)
 test_packages=(clang-format libgtest-dev librapidcheck-dev)
 lint_packages=(clang-tidy shellcheck)

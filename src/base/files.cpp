@@ -1,5 +1,6 @@
 #include "base/files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -153,13 +154,17 @@ Result<std::size_t> readsome(const OpenFile& file, std::span<char> into)
 
 Result<std::string> readwhole(const std::string& path, std::size_t limit)
 {
+    constexpr std::size_t chunk = 65536;
     Result<OpenFile> file = openforreading(path);
     if (!file) {
         return {std::nullopt, file.reason};
     }
     std::string content;
+    struct stat status {};
+    if (::fstat(file.value->descriptor(), &status) == 0 && status.st_size >= 0) {
+        content.reserve(std::min(static_cast<std::size_t>(status.st_size), limit) + chunk);
+    }
     for (;;) {
-        constexpr std::size_t chunk = 65536;
         const std::size_t before = content.size();
         content.resize(before + chunk);
         const Result<std::size_t> got = readsome(*file.value, std::span(content).subspan(before));

@@ -4,6 +4,7 @@
 #include "toolkit/qt/windowicon.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QPixmapCache>
 #include <QPlainTextEdit>
 #include <QProxyStyle>
@@ -12,6 +13,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace brindor::toolkit::qt {
@@ -59,6 +61,21 @@ double luminance(const QColor& colour)
 double contrast(const QColor& dark, const QColor& light)
 {
     return (luminance(light) + 0.05) / (luminance(dark) + 0.05);
+}
+
+// The family that is there. To leave the choice to Qt would make it sort all fonts of the machine once for each name.
+const QString& familyfor(Face face)
+{
+    static const auto present = [] {
+        std::array<QString, families.size()> names;
+        for (const FaceFamilies& family : families) {
+            const QString wanted = QLatin1String(family.wanted);
+            names[static_cast<std::size_t>(family.face)] =
+                QFontDatabase::hasFamily(wanted) ? wanted : QLatin1String(family.free);
+        }
+        return names;
+    }();
+    return present[static_cast<std::size_t>(face)];
 }
 
 // The buttons of messages look like those of the screens, and what the style measures grows with the zoom.
@@ -122,9 +139,6 @@ void dressapplication()
     const QPalette palette = plainpalette();
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
-    for (const FaceFamilies& family : families) {
-        QFont::insertSubstitution(family.wanted, family.free);
-    }
     QApplication::setWindowIcon(compassicon());
     dressfonts();
 }
@@ -148,7 +162,7 @@ QColor qtcolour(Colour colour)
 QFont qtfont(const Font& font, Zoom zoom)
 {
     const double pixelsatone = std::round(font.points * 96 / 72);
-    QFont result(QLatin1String(familiesof(font.face).wanted));
+    QFont result(familyfor(font.face));
     result.setPixelSize(std::max(1, static_cast<int>(pixelsatone * zoom.factor() + 1e-6)));
     result.setBold(font.bold);
     return result;

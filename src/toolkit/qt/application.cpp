@@ -1,6 +1,7 @@
 #include "toolkit/qt/application.h"
 
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/fontrules.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -37,6 +38,7 @@ void takemessage(QtMsgType type, const QMessageLogContext& /*context*/, const QS
 int runapplication(int argc, char** argv, const std::function<void()>& program)
 {
     qInstallMessageHandler(takemessage);
+    usefontrules();
     QApplication application(argc, argv);
     running = true;
     QApplication::setQuitOnLastWindowClosed(false);
