@@ -38,11 +38,6 @@ const updated = (page) => page.run(async () => {
     }
 });
 
-async function again({ page, person }) {
-    await page.go("Page.reload");
-    return person.settled();
-}
-
 // Shows the first events' maps, one after the other; gives the width of each.
 async function maps({ page, person }, count) {
     const { press } = hands.mouse(person);
@@ -64,7 +59,7 @@ test("With the network gone the game does not start, or a map that was seen is l
     await kept(game.page);
     await game.page.run(() => new Promise((done) => requestIdleCallback(done)));
     await game.server.stop();
-    assert.equal(await again(game), "main");
+    assert.equal(await game.again(), "main");
     assert.deepEqual(await maps(game, 2), seen);
 });
 
@@ -76,7 +71,7 @@ test("A newer version is never taken, or taken though a part of it is missing", 
         publish(text, half);
         await updated(game.page);
         versions.push(await versionof(game.page));
-        await again(game);
+        await game.again();
         versions.push(await versionof(game.page));
     }
     assert.deepEqual(versions, ["as built", "as built", "as built", "newer"]);
