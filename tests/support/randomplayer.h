@@ -2,11 +2,8 @@
 
 #include "toolkit/controls.h"
 
-#include <cstdint>
 #include <ctime>
-#include <functional>
 #include <random>
-#include <string>
 
 namespace brindor::tests {
 
@@ -40,7 +37,6 @@ private:
     void look(const toolkit::Screen& screen);
     void lookatquestion(const toolkit::Screen& screen, int worth);
     void lookatscore();
-    void lookatlog();
     void require(bool condition, const std::string& what);
 
     std::mt19937_64 random_;
@@ -56,8 +52,6 @@ private:
     int worth_ = 0;           // points of the question in front
     int right_ = 0;
     int possible_ = 0;
-    std::size_t logged_ = 0; // bytes of the log that were looked at
-    int askedbefore_ = 0;    // questions that the log was looked at for
 };
 
 } // namespace brindor::tests
