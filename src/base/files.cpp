@@ -65,6 +65,7 @@ Result<OpenFile> openregular(const std::string& path, int flags)
     if (!S_ISREG(status.st_mode)) {
         return {std::nullopt, std::string(notregularreason)};
     }
+    ++faultplan.opened;
     return {std::move(file), {}};
 }
 
@@ -144,6 +145,7 @@ Result<std::size_t> readsome(const OpenFile& file, std::span<char> into)
         }
         const ssize_t got = ::read(file.descriptor(), into.data(), into.size());
         if (got >= 0) {
+            faultplan.bytesread += got;
             return {static_cast<std::size_t>(got), {}};
         }
         if (errno != EINTR) {

@@ -61,11 +61,14 @@ Result<Done> makefolder(const std::string& path);
 Result<Done> enterdirectory(const std::string& path);
 
 // The tests make file calls fail on purpose. Calls are counted from 1; call number `failat` fails, and all that
-// follow it too where `forever` is set. 0 lets every call through. Written by tests only.
+// follow it too where `forever` is set. 0 lets every call through. What was done is counted beside it: files opened for
+// reading or writing, and bytes read. Set by tests only.
 struct FaultPlan {
     std::int64_t failat = 0;
     bool forever = false;
     std::int64_t calls = 0;
+    std::int64_t opened = 0;
+    std::int64_t bytesread = 0;
 };
 extern FaultPlan faultplan;
 

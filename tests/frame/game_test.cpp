@@ -122,6 +122,7 @@ TEST_F(Game, NothingToAskIsTold)
 TEST_F(Game, StartsInOrderAndEndsWithTheSettings)
 {
     writefile("Classic.bd3", timelinetext());
+    const std::int64_t timelinebytes = std::ssize(timelinetext());
     writefile("bdqquiz.log", "old");
     host.pictures["TITLE.BMP"] = 0;
     tests::settimeline({}, {});
@@ -130,8 +131,10 @@ TEST_F(Game, StartsInOrderAndEndsWithTheSettings)
     std::filesystem::current_path("/");
     faultplan = {};
     EXPECT_EQ(run("?; Command3; Command3; ?; cmdCatalog",
-                  [](Screen& screen) {
+                  [timelinebytes](Screen& screen) {
                       EXPECT_LE(faultplan.calls, 10); // of the disk: settings looked for, log emptied, a timeline read
+                      EXPECT_EQ(faultplan.opened, 2);
+                      EXPECT_EQ(faultplan.bytesread, timelinebytes);
                       std::string text;
                       for (const Control* control : screen.controls) {
                           text += control->visible ? control->text + '|' : "-";

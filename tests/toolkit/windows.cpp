@@ -46,7 +46,13 @@ void walk(const std::function<void()>& open, const std::function<void(QWidget& w
     const std::function<void()> tick = [&] {
         QTimer::singleShot(1, &person, tick);
         QWidget* front = QApplication::activeModalWidget();
-        if (front == nullptr || front == acting || !front->isVisible() || !front->windowHandle()->isExposed()) {
+        if (front == nullptr || front == acting || !front->isVisible()) {
+            return;
+        }
+        if (!front->windowHandle()->isExposed()) {
+            if (front->isMinimized()) { // on a real display, where a person brings it back
+                front->showNormal();
+            }
             return;
         }
         const toolkit::Screen* screen = toolkit::topscreen();

@@ -93,8 +93,6 @@ class Page {
             this.errors.push(`${params.entry.text} ${params.entry.url ?? ""}`);
         } else if (method === "Page.domContentEventFired") {
             this.there?.();
-        } else if (method === "Inspector.targetCrashed") {
-            this.errors.push("the page crashed");
         }
     }
 

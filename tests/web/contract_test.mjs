@@ -63,11 +63,7 @@ const verbs = {
         await person.mouse("Moved", at, { button: "none" });
         await person.mouse("Pressed", at);
     },
-    letgo: async (person, act) => {
-        const at = await where(person, act);
-        await person.mouse("Moved", at, { buttons: 1 });
-        await person.mouse("Released", at);
-    },
+    letgo: async (person, act) => person.letgoat(await where(person, act)),
     stepup: half(1), stepdown: half(2),
     resize: async (person, act) => {
         const { at, to } = await person.page.run((what, width) => {
@@ -79,8 +75,7 @@ const verbs = {
         }, front, +act.more + 4);
         await person.mouse("Moved", at, { button: "none" });
         await person.mouse("Pressed", at);
-        await person.mouse("Moved", to, { buttons: 1 });
-        await person.mouse("Released", to);
+        await person.letgoat(to);
     },
     up: key("ArrowUp"), return: key("Enter"), escape: key("Escape"),
     close: async (person, act) =>

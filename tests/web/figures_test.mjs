@@ -35,12 +35,16 @@ test("The start takes too many bytes or too much time", async (t) => {
     assert.ok(seconds <= mostseconds, `${seconds} s`);
 });
 
+// Gives a procedure that tells how many milliseconds the page itself has worked; what else the machine does is not in it.
+async function stopwatch(page) {
+    await page.call("Performance.enable", { timeDomain: "threadTicks" });
+    return async () => (await page.call("Performance.getMetrics")).metrics.find(
+        ({ name }) => name === "TaskDuration").value * 1000;
+}
+
 test("The next question comes late after the click", async (t) => {
     const { page, person } = await opengame(t, "?seed=3");
-    await page.call("Performance.enable", { timeDomain: "threadTicks" });
-    const worked = async () => (await page.call("Performance.getMetrics")).metrics.find(
-        ({ name }) => name === "TaskDuration").value * 1000;
-    await page.run(() => addEventListener("click", ({ timeStamp }) => (globalThis.clicked = timeStamp), true));
+    const worked = await stopwatch(page);
     const times = [];
     for (let front = "main"; times.length < 60;) {
         const before = await worked();
@@ -53,6 +57,19 @@ test("The next question comes late after the click", async (t) => {
     }
     times.sort((a, b) => a - b);
     const [median, worst] = [times[30], times[59]].map((time) => `${time.toFixed(1)} ms`);
-    report(`processor time until the next question: median ${median}, worst ${worst}`);
-    assert.ok(times[30] < mostmilliseconds, `${times[30]} ms`);
+    report(`the page works until the next question: median ${median}, worst ${worst}`);
+    assert.ok(times[30] < mostmilliseconds, median);
+});
+
+test("The page works while nobody acts", async (t) => {
+    const { page, person } = await opengame(t);
+    const worked = await stopwatch(page);
+    await person.clickat(await person.at(named("Command1")));
+    await new Promise((done) => setTimeout(done, 2000)); // what the start has left to do
+    const [turn, before] = [await page.run(() => document.documentElement.dataset.turn), await worked()];
+    await new Promise((done) => setTimeout(done, 3000));
+    const milliseconds = (await worked()) - before;
+    report(`${milliseconds.toFixed(1)} ms of work in 3 s in which nobody acts`);
+    assert.equal(await page.run(() => document.documentElement.dataset.turn), turn);
+    assert.ok(milliseconds < 10, `${milliseconds} ms`);
 });

@@ -22,5 +22,9 @@ export async function opengame(t, query = "", size = {}, folders = [`${web}site`
     t.after(() => assert.deepEqual(page.errors, []));
     const person = new Person(page);
     await person.settled();
-    return { server, browser, page, person };
+    const again = async () => {
+        await page.go("Page.reload");
+        return person.settled();
+    };
+    return { server, browser, page, person, again };
 }

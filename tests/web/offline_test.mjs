@@ -4,10 +4,10 @@ import { appendFileSync, cpSync, mkdtempSync, rmSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, test } from "node:test";
-import { fileURLToPath } from "node:url";
+import { fileURLToPath, pathToFileURL } from "node:url";
+import { Browser } from "./browser.mjs";
 import { opengame, web } from "./game.mjs";
-import { hands, named } from "./person.mjs";
-import { serve } from "./server.mjs";
+import { hands, named, Person } from "./person.mjs";
 
 const version = fileURLToPath(new URL("../../src/toolkit/web/page/version.mjs", import.meta.url));
 const folder = mkdtempSync(join(tmpdir(), "brindor-site-"));
@@ -38,11 +38,6 @@ const updated = (page) => page.run(async () => {
     }
 });
 
-async function again({ page, person }) {
-    await page.go("Page.reload");
-    return person.settled();
-}
-
 // Shows the first events' maps, one after the other; gives the width of each.
 async function maps({ page, person }, count) {
     const { press } = hands.mouse(person);
@@ -64,7 +59,7 @@ test("With the network gone the game does not start, or a map that was seen is l
     await kept(game.page);
     await game.page.run(() => new Promise((done) => requestIdleCallback(done)));
     await game.server.stop();
-    assert.equal(await again(game), "main");
+    assert.equal(await game.again(), "main");
     assert.deepEqual(await maps(game, 2), seen);
 });
 
@@ -76,8 +71,21 @@ test("A newer version is never taken, or taken though a part of it is missing", 
         publish(text, half);
         await updated(game.page);
         versions.push(await versionof(game.page));
-        await again(game);
+        await game.again();
         versions.push(await versionof(game.page));
     }
     assert.deepEqual(versions, ["as built", "as built", "as built", "newer"]);
+});
+
+test("The one file does not play by itself", async (t) => {
+    const browser = new Browser();
+    t.after(() => browser.close());
+    const page = await browser.open(pathToFileURL(`${web}brindor.html`));
+    const person = new Person(page);
+    const { press } = hands.mouse(person);
+    assert.equal(await person.settled(), "main");
+    await press(named("cmdsetup"));
+    await press(named("cmdok"));
+    assert.match(await press(named("Command1")), /^(mchoice|qsort|qmatch)$/);
+    assert.deepEqual(page.errors, []);
 });

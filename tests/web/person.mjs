@@ -79,11 +79,13 @@ export class Person {
     async dragto(from, to) {
         await this.mouse("Moved", from, { button: "none" });
         await this.mouse("Pressed", from);
-        for (const part of [0.1, 0.5, 1]) {
-            const between = { x: from.x + part * (to.x - from.x), y: from.y + part * (to.y - from.y) };
-            await this.mouse("Moved", between, { buttons: 1 });
-        }
-        await this.mouse("Released", to);
+        await this.mouse("Moved", { x: (from.x + to.x) / 2, y: (from.y + to.y) / 2 }, { buttons: 1 });
+        return this.letgoat(to);
+    }
+
+    async letgoat(point) {
+        await this.mouse("Moved", point, { buttons: 1 });
+        await this.mouse("Released", point);
         return this.settled();
     }
 

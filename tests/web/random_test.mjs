@@ -64,7 +64,7 @@ const acts = [
 
 test("Something that a person does brings the game out of order", { timeout: 3600000 }, async (t) => {
     report(`BRINDOR_SEED=${seed}`);
-    const { person, page } = await opengame(t, `?seed=${seed}`);
+    const { person, page, again } = await opengame(t, `?seed=${seed}`);
     const last = [];
     let asked = 0;
     let steps = 0;
@@ -73,8 +73,7 @@ test("Something that a person does brings the game out of order", { timeout: 360
             const seen = await page.run(look);
             asked += seen.fresh;
             if (seen.state === "ended") {
-                await page.go("Page.reload");
-                await person.settled();
+                await again();
                 continue;
             }
             const visible = seen.things.filter(({ y }) => y > 0 && y < seen.height);

@@ -1,4 +1,5 @@
-// Every screen at the sizes of a phone, a tablet and a laptop: pictures to look at, and nothing of it is out of reach.
+// Every screen at the sizes of a phone, a laptop with the browser's zoom at 200 %, a tablet, and a laptop: pictures to
+// look at, and nothing of it is out of reach.
 import assert from "node:assert";
 import { mkdirSync } from "node:fs";
 import { test } from "node:test";
@@ -8,8 +9,8 @@ import { answer, named } from "./person.mjs";
 const folder = `${web}screenshots`;
 mkdirSync(folder, { recursive: true });
 
-// Controls in front that nobody could press, as they lie outside the page or under another; and a page that is wider
-// than what is seen of it.
+// Controls in front that nobody could press, as they lie outside the page, under another, or are too small for a finger;
+// and a page that is wider than what is seen of it.
 function outofreach() {
     const front = document.querySelector("dialog[open]") ??
         [...document.querySelectorAll("section.screen:not([inert])")].at(-1);
@@ -20,6 +21,9 @@ function outofreach() {
         }
         thing.scrollIntoView({ block: "nearest", inline: "nearest", behavior: "instant" });
         const { left, top, width, height } = thing.getBoundingClientRect();
+        if (innerWidth < 700 && height < 44 && thing.matches("button, [role=option]")) {
+            wrong.push(`${thing.textContent} is ${height} pixels high`);
+        }
         const hit = document.elementFromPoint(left + width / 2, top + height / 2);
         if (!hit || !(thing.contains(hit) || hit.contains(thing) || hit.closest("label")?.contains(thing))) {
             wrong.push(`${thing.dataset.control ?? thing.outerHTML.slice(0, 60)} under ${hit?.outerHTML.slice(0, 60)}`);
@@ -30,7 +34,7 @@ function outofreach() {
     return wrong;
 }
 
-for (const [width, height, touch] of [[360, 640, true], [768, 1024, true], [1280, 800, false]]) {
+for (const [width, height, touch] of [[360, 640, true], [640, 400, false], [768, 1024, true], [1280, 800, false]]) {
     test(`At ${width} pixels something is out of reach`, async (t) => {
         const { page, person } = await opengame(t, "?seed=11", { width, height, touch });
         const wrong = [];

@@ -10,12 +10,7 @@ async function start(t) {
     const folder = mkdtempSync(join(tmpdir(), "brindor-own-"));
     t.after(() => rmSync(folder, { recursive: true }));
     const game = await opengame(t);
-    const { press } = hands.mouse(game.person);
-    const again = async () => {
-        await game.page.go("Page.reload");
-        await game.person.settled();
-    };
-    return { ...game, folder, press, again };
+    return { ...game, folder, press: hands.mouse(game.person).press };
 }
 
 test("Settings are lost with the page, or the log cannot be saved", async (t) => {
