@@ -108,6 +108,9 @@ void RandomPlayer::look(const Screen& screen)
     } else {
         seen_.clear();
     }
+    if (screen.name == "main") {
+        lookatlog();
+    }
     if (screen.name == "bdqedit") { // a new record that a title bar left open would be asked about, also while browsing
         RecordEditor<PersonFamily>::newentry = 0;
         RecordEditor<EventFamily>::newentry = 0;
@@ -159,6 +162,22 @@ void RandomPlayer::lookatscore()
     require(players[0].right <= players[0].asked, "more right than asked");
     right_ = players[0].right;
     possible_ = players[0].asked;
+}
+
+// What a game has added to the log: a header for each question where all is logged, none where only what is wrong is,
+// and nothing while it is off.
+void RandomPlayer::lookatlog()
+{
+    const std::string log = contentof("bdqquiz.log");
+    const std::vector<std::string> lines = split(log.substr(logged_), "\n");
+    logged_ = log.size();
+    const auto headers = std::count_if(lines.begin(), lines.end(), [](const std::string& line) {
+        return line == "Multiple Choice\r" || line.starts_with("Match ") || line.starts_with("Items to sort by ");
+    });
+    require(logstatus != 0 || lines.empty(), "a line in a log that is off");
+    require(logstatus == 1 ? headers == asked_ - askedbefore_ : headers == 0,
+            "headers that the log's level does not allow");
+    askedbefore_ = asked_;
 }
 
 void RandomPlayer::writetimelines()

@@ -37,6 +37,7 @@ private:
     void look(const toolkit::Screen& screen);
     void lookatquestion(const toolkit::Screen& screen, int worth);
     void lookatscore();
+    void lookatlog();
     void require(bool condition, const std::string& what);
 
     std::mt19937_64 random_;
@@ -52,6 +53,8 @@ private:
     int worth_ = 0;           // points of the question in front
     int right_ = 0;
     int possible_ = 0;
+    std::size_t logged_ = 0; // bytes of the log that were looked at
+    int askedbefore_ = 0;    // questions that the log was looked at for
 };
 
 } // namespace brindor::tests
