@@ -2,8 +2,6 @@
 #include "support/scratchfolder.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
 #include <sys/resource.h>
 #include <sys/stat.h>
 

@@ -5,10 +5,7 @@
 #include "support/scratchfolder.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
 #include <set>
-#include <string>
 
 namespace brindor {
 

@@ -2,11 +2,7 @@
 #include "base/text.h"
 #include "support/story.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <limits>
-#include <string>
 
 namespace brindor {
 

@@ -7,8 +7,6 @@
 #include "questions/question.h"
 #include "support/programtest.h"
 
-#include <string>
-
 namespace brindor::tests {
 
 // A ProgramTest with the tables filled, default settings (all types on, everything logged), an empty score and an

@@ -1,17 +1,13 @@
 #pragma once
 
-#include "toolkit/host.h"
 #include "toolkit/operations.h"
 #include "toolkit/user.h"
 
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <functional>
 #include <map>
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace brindor::tests {
 

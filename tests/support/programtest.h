@@ -2,12 +2,9 @@
 
 #include "base/files.h"
 #include "base/random.h"
-#include "support/memoryhost.h"
 #include "support/scratchfolder.h"
 #include "support/story.h"
 #include "support/timelines.h"
-
-#include <gtest/gtest.h>
 
 namespace brindor::tests {
 

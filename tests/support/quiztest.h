@@ -1,12 +1,8 @@
 #pragma once
 
-#include "questions/question.h"
 #include "quiz/showscor.h"
 #include "support/gametest.h"
 #include "timeline/usedmarks.h"
-
-#include <string>
-#include <vector>
 
 namespace brindor::tests {
 

@@ -2,27 +2,15 @@
 
 #include "base/numbers.h"
 #include "editors/recordeditor.h"
-#include "frame/services/score.h"
-#include "frame/services/settings.h"
-#include "questions/question.h"
 #include "questions/texts.h"
 #include "questions/types.h"
-#include "support/scratchfolder.h"
-#include "support/story.h"
-#include "support/timelines.h"
+#include "support/gametest.h"
 #include "timeline/usedmarks.h"
 #include "timeline/writer.h"
-#include "toolkit/user.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstdlib>
 #include <iostream>
-#include <map>
 #include <numeric>
 #include <set>
-#include <utility>
 
 namespace brindor::tests {
 

@@ -2,11 +2,8 @@
 
 #include "toolkit/controls.h"
 
-#include <cstdint>
 #include <ctime>
-#include <functional>
 #include <random>
-#include <string>
 
 namespace brindor::tests {
 

@@ -4,9 +4,6 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <stdexcept>
-#include <string>
-#include <string_view>
 
 namespace brindor::tests {
 

@@ -2,11 +2,6 @@
 
 #include "support/memoryhost.h"
 
-#include <cstdint>
-#include <functional>
-#include <string>
-#include <vector>
-
 namespace brindor::tests {
 
 // What a person does to a control of whatever kind, through toolkit/user.h. Gives false where it was refused, and for a

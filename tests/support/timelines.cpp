@@ -3,9 +3,6 @@
 #include "base/numbers.h"
 #include "timeline/usedmarks.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace brindor::tests {
 
 Catalogue catalogue(const std::vector<std::string>& names)

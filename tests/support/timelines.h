@@ -2,9 +2,6 @@
 
 #include "timeline/timeline.h"
 
-#include <string>
-#include <vector>
-
 namespace brindor::tests {
 
 Catalogue catalogue(const std::vector<std::string>& names);

@@ -1,13 +1,10 @@
 #include "story.h"
-#include "toolkit/user.h"
 
 #include <gtest/gtest.h>
 
 // What a program may rely on, whichever host is in force: the same story gives the same events in the same order,
 // with windows and without.
 namespace brindor::tests {
-
-namespace {
 
 using namespace toolkit;
 
@@ -150,7 +147,5 @@ TEST_P(ContractTest, Story)
 {
     check(GetParam());
 }
-
-} // namespace
 
 } // namespace brindor::tests

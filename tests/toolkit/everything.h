@@ -5,9 +5,6 @@
 
 #include <array>
 #include <cmath>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace brindor::tests {
 

@@ -1,10 +1,6 @@
 #include "toolkit/layout.h"
 
-#include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
-
-#include <string>
-#include <vector>
 
 // Plain boxes in pixels, without a window.
 namespace brindor::tests {

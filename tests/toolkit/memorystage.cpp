@@ -1,10 +1,6 @@
 #include "story.h"
 #include "support/story.h"
 
-#include <gtest/gtest.h>
-
-#include <utility>
-
 namespace brindor::tests {
 
 using namespace toolkit;
@@ -74,59 +70,35 @@ const Verbs acted = {
      [](const Act& act) { userresize(act.screen, act.number() * 15 + frametwips, act.screen.height, normal); }},
 };
 
-class MemoryStage : public Stage {
-public:
-    explicit MemoryStage(Verbs verbs) : verbs_(std::move(verbs))
-    {
-        verbs_.insert(acted.begin(), acted.end());
-        verbs_["yes"] = [this](const Act&) { host_.answers = {true}; };
-        verbs_["no"] = [this](const Act&) { host_.answers = {false}; };
-        host_.frame = {frametwips, frametwips};
-        host_.whilemessage = [this](const Message&) {
-            host_.answers.clear();
-            while (host_.answers.empty() && !acts_.empty() && acts_.front().on == "message") {
-                next();
-            }
-        };
-    }
-
-    void play(Screen& screen, Acts acts) override
-    {
-        acts_ = std::move(acts);
-        for (const char* name : {"all", "second", "third"}) {
-            host_.persons[name] = [this](Screen& front) {
-                const bool mine = !acts_.empty() && acts_.front().on == front.name;
-                EXPECT_TRUE(mine) << "the story has no act for " << front.name;
-                mine ? next() : closescreen(front);
-            };
-        }
-        showmodal(screen);
-        EXPECT_TRUE(acts_.empty()) << acts_.size() << " acts left";
-    }
-
-private:
-    void next()
-    {
-        const Act act = acts_.front();
-        acts_.pop_front();
-        verbs_.at(act.verb)(act);
-    }
-
-    Verbs verbs_;
-    MemoryHost host_;
-    Acts acts_;
-};
-
 } // namespace
 
-std::unique_ptr<Stage> makestage(const Verbs& own)
+void play(Screen& screen, Acts acts, Verbs verbs)
 {
-    return std::make_unique<MemoryStage>(own);
-}
-
-const char* stagename()
-{
-    return "in memory";
+    verbs.insert(acted.begin(), acted.end());
+    MemoryHost host;
+    host.frame = {frametwips, frametwips};
+    verbs["yes"] = [&](const Act&) { host.answers = {true}; };
+    verbs["no"] = [&](const Act&) { host.answers = {false}; };
+    const auto next = [&] {
+        const Act act = acts.front();
+        acts.pop_front();
+        verbs.at(act.verb)(act);
+    };
+    host.whilemessage = [&](const Message&) {
+        host.answers.clear();
+        while (host.answers.empty() && !acts.empty() && acts.front().on == "message") {
+            next();
+        }
+    };
+    for (const char* name : {"all", "second", "third"}) {
+        host.persons[name] = [&](Screen& front) {
+            const bool mine = !acts.empty() && acts.front().on == front.name;
+            EXPECT_TRUE(mine) << "the story has no act for " << front.name;
+            mine ? next() : closescreen(front);
+        };
+    }
+    showmodal(screen);
+    EXPECT_TRUE(acts.empty()) << acts.size() << " acts left";
 }
 
 } // namespace brindor::tests

@@ -1,11 +1,6 @@
 #include "story.h"
 #include "support/story.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <string_view>
-
 namespace brindor::tests {
 
 using namespace toolkit;
@@ -79,7 +74,7 @@ void check(const Story& story, const Verbs& own)
         story.before(all);
     }
     const std::string first = all.sized();
-    makestage(verbs)->play(all, std::move(acts));
+    play(all, std::move(acts), std::move(verbs));
     EXPECT_EQ(log, first + (*story.log == 0 ? "" : ", ") + story.log + ", unloaded");
 }
 

@@ -3,12 +3,7 @@
 #include "everything.h"
 
 #include <deque>
-#include <functional>
 #include <map>
-#include <memory>
-#include <ostream>
-#include <string>
-#include <vector>
 
 namespace brindor::tests {
 
@@ -34,18 +29,10 @@ using Acts = std::deque<Act>;
 // reached there.
 using Verbs = std::map<std::string, std::function<void(const Act&)>>;
 
-// A host with a person before it who acts a story, one act after the other, each as soon as its screen waits. What
-// is left of the story when the screen has closed, and a screen that waits for an act that does not come, fail the
-// test.
-class Stage {
-public:
-    virtual ~Stage() = default;
-    virtual void play(toolkit::Screen& screen, Acts acts) = 0;
-};
-
-// The stage that a test program is linked with. `own` are verbs that only its test knows.
-std::unique_ptr<Stage> makestage(const Verbs& own);
-const char* stagename();
+// Shows the screen on the host that the test program is linked with. A person before it does the acts, one after the
+// other, each as soon as its screen waits. What is left of them when the screen has closed, and a screen that waits for
+// an act that does not come, fail the test. `verbs` are those that are the same on every host.
+void play(toolkit::Screen& screen, Acts acts, Verbs verbs);
 
 // A story: "click go; second: type all.line ab; message: yes". An act is a verb, a control (of the screen that acts,
 // or another's, "all.line") and what more the verb takes. "second:" before an act says which screen must be in front
@@ -57,10 +44,6 @@ struct Story {
     const char* acts;
     const char* log;
 };
-inline void PrintTo(const Story& /*story*/, std::ostream* out)
-{
-    *out << stagename();
-}
-void check(const Story& story, const Verbs& own = {});
+void check(const Story& story, const Verbs& own = {}); // `own` are verbs that only this test knows
 
 } // namespace brindor::tests

@@ -1,12 +1,8 @@
 #include "everything.h"
 #include "support/memoryhost.h"
 
-#include <gtest/gtest.h>
-
 // What the doors of the records refuse and tell where no window could ask for it.
 namespace brindor::tests {
-
-namespace {
 
 using namespace toolkit;
 
@@ -62,7 +58,5 @@ TEST(UserTest, WhatIsNotThereIsPickedOrDroppedOrASizeIsToldTwice)
     EXPECT_EQ(all.dragged, nullptr);
     EXPECT_EQ(log, "resized to 9000, resized to 8570, resized to 8570, min resized to 8570, resized to 8570, unloaded");
 }
-
-} // namespace
 
 } // namespace brindor::tests

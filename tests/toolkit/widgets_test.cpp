@@ -3,29 +3,15 @@
 #include "support/scratchfolder.h"
 #include "toolkit/qt/displayzoom.h"
 #include "toolkit/qt/pictures.h"
-#include "toolkit/qt/qthost.h"
 #include "toolkit/qt/qttext.h"
 #include "windows.h"
 
-#include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
-#include <QElapsedTimer>
-#include <QImage>
 #include <QListWidget>
-#include <QTest>
-
-#include <gtest/gtest.h>
+#include <map>
 #include <rapidcheck/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <filesystem>
-#include <map>
-
 namespace brindor::tests {
-
-namespace {
 
 using namespace toolkit;
 
@@ -140,7 +126,7 @@ TEST(PictureTest, AFailureHasAnotherNumberOrABombIsLoadedOrALargePictureKeptLarg
     EXPECT_EQ(qt::StretchedPicture().at(picture, {30, 40}, 2).size(), QSize(60, 80));
 }
 
-long percent(qt::Zoom zoom)
+static long percent(qt::Zoom zoom)
 {
     return std::lround(zoom.factor() * 100);
 }
@@ -148,15 +134,10 @@ long percent(qt::Zoom zoom)
 TEST(ZoomTest, TheFirstZoomDoesNotSuitTheDisplay)
 {
     std::vector<long> percents;
-    for (const auto& [width, height] : {std::pair{1024, 768},
-                                        {1366, 768},
-                                        {1920, 1080},
-                                        {2560, 1440},
-                                        {3840, 2160},
-                                        {1092, 614},
-                                        {960, 540},
-                                        {640, 400}}) {
-        percents.push_back(percent(qt::startzoom({width, height})));
+    const QSize displays[] = {{1024, 768},  {1366, 768}, {1920, 1080}, {2560, 1440},
+                              {3840, 2160}, {1092, 614}, {960, 540},   {640, 400}};
+    for (const QSize& display : displays) {
+        percents.push_back(percent(qt::startzoom(display)));
     }
     EXPECT_EQ(percents, (std::vector<long>{100, 100, 135, 180, 200, 90, 79, 57}));
 }
@@ -199,7 +180,5 @@ RC_GTEST_PROP(ZoomTest, ASizeDriftsOverRoundTrips, ())
         RC_ASSERT(all.width == width && all.height == height);
     }
 }
-
-} // namespace
 
 } // namespace brindor::tests

@@ -1,18 +1,8 @@
 #include "windows.h"
 
-#include "toolkit/operations.h"
-
-#include <QAccessible>
-#include <QApplication>
 #include <QMetaEnum>
 #include <QPointer>
-#include <QTest>
 #include <QTimer>
-#include <QWindow>
-
-#include <gtest/gtest.h>
-
-#include <stdexcept>
 
 namespace brindor::tests {
 

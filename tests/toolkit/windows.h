@@ -1,13 +1,14 @@
 #pragma once
 
-#include "toolkit/controls.h"
+#include "toolkit/operations.h"
+#include "toolkit/qt/qthost.h"
 
-#include <QWidget>
+#include <QAccessible>
+#include <QApplication>
+#include <QTest>
+#include <gtest/gtest.h>
 
-#include <functional>
-#include <string>
-#include <vector>
-
+// What nearly every test with windows needs comes with this header.
 namespace brindor::tests {
 
 // The window of a screen and the widget of a control, found by their object names as any test tool finds them.

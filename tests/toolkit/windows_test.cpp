@@ -1,31 +1,20 @@
 #include "story.h"
-#include "toolkit/qt/qthost.h"
 #include "toolkit/qt/zoom.h"
 #include "windows.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QListWidget>
 #include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <array>
 
 // What only a window has, and what an assistive tool, and so a person who does not see the window, is told of it.
 namespace brindor::tests {
-
-namespace {
 
 using namespace toolkit;
 
 // The state of the window and its size, and a control's place and width and the size of its letters, all in pixels. The
 // frame of the windows here takes 4 pixels, at every zoom.
-void tellplaces(const Act& act)
+static void tellplaces(const Act& act)
 {
     const QWidget& window = windowof(act.screen);
     const QWidget& widget = widgetof(*act.control);
@@ -39,7 +28,7 @@ void tellplaces(const Act& act)
 }
 
 // Waits for what the window system reports in the meantime.
-std::function<void(const Act&)> state(Qt::WindowState state)
+static std::function<void(const Act&)> state(Qt::WindowState state)
 {
     return [state](const Act& act) {
         windowof(act.screen).setWindowState(state);
@@ -47,7 +36,7 @@ std::function<void(const Act&)> state(Qt::WindowState state)
     };
 }
 
-void enlargemessage(const Act&)
+static void enlargemessage(const Act&)
 {
     QWidget* box = QApplication::activeModalWidget();
     const int before = box->width();
@@ -56,13 +45,13 @@ void enlargemessage(const Act&)
     EXPECT_GE(box->height(), box->sizeHint().height());
 }
 
-void lookatmessage(const Act& act)
+static void lookatmessage(const Act& act)
 {
     const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     act.screen.note(box->text().toStdString() + (box->textFormat() == Qt::PlainText ? "" : " as markup"));
 }
 
-void pressforsomeone(const Act& act)
+static void pressforsomeone(const Act& act)
 {
     QAccessibleInterface* about = QAccessible::queryAccessibleInterface(&widgetof(*act.control));
     about->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -94,7 +83,7 @@ const Verbs own = {
     {"quit", [](const Act&) { quitbydesktop(); }},
 };
 
-void asks(Everything& screen)
+static void asks(Everything& screen)
 {
     screen.go.click = [&screen] { screen.note(askyesno("One\r\n<b>two</b>", "Title") ? "yes" : "no"); };
 }
@@ -215,7 +204,5 @@ TEST_F(WindowTest, APictureIsCutWhereNothingScrolls)
         EXPECT_EQ(widgetof(picture).geometry(), QRect(10, 20, seen.width() - 10, seen.height() - 20));
     });
 }
-
-} // namespace
 
 } // namespace brindor::tests

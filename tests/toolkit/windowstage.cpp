@@ -1,17 +1,10 @@
 #include "story.h"
-#include "toolkit/qt/qthost.h"
 #include "windows.h"
 
 #include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QTest>
-#include <QWindow>
-
-#include <utility>
 
 namespace brindor::tests {
 
@@ -116,34 +109,17 @@ const Verbs acted = {
     {"no", answer},
 };
 
-class WindowStage : public Stage {
-public:
-    explicit WindowStage(Verbs verbs) : verbs_(std::move(verbs)) { verbs_.insert(acted.begin(), acted.end()); }
-
-    void play(Screen& screen, Acts acts) override
-    {
-        std::vector<Step> steps;
-        for (const Act& act : acts) {
-            steps.push_back({act.on, [this, act](QWidget&) { verbs_.at(act.verb)(act); }});
-        }
-        walk([&] { showmodal(screen); }, steps);
-    }
-
-private:
-    Verbs verbs_;
-    QtHost host_;
-};
-
 } // namespace
 
-std::unique_ptr<Stage> makestage(const Verbs& own)
+void play(Screen& screen, Acts acts, Verbs verbs)
 {
-    return std::make_unique<WindowStage>(own);
-}
-
-const char* stagename()
-{
-    return "on windows";
+    verbs.insert(acted.begin(), acted.end());
+    std::vector<Step> steps;
+    for (const Act& act : acts) {
+        steps.push_back({act.on, [&](QWidget&) { verbs.at(act.verb)(act); }});
+    }
+    const QtHost host;
+    walk([&] { showmodal(screen); }, steps);
 }
 
 } // namespace brindor::tests

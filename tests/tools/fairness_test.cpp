@@ -1,8 +1,6 @@
 #include "authoring/fairness.h"
 #include "tools/sample.h"
 
-#include <algorithm>
-
 namespace brindor::authoring {
 
 using namespace tests;
@@ -33,14 +31,13 @@ Fairness drawn(std::int16_t type, const std::string& first, const std::string& s
 
 TEST_F(FairnessTest, CountsQuestionsWithTwoAnswersByTheRules)
 {
-    struct Case {
+    const struct {
         std::int16_t type;
         std::string first;
         std::string second;
         int clear; // about: of five items one of four is asked about, so a pair of them is met in 40 of 100
         int arguable;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {1, "", "", 0, 0},
         {1, "100,ca.,150,,D1,,F1,O1", "110,,160,ca.,D2,,F2,O2", 40, 0},
         {1, "100,ca.,150,,D1,,F1,O1", "110,,160,,D2,,F2,O2", 0, 40},
@@ -70,7 +67,7 @@ TEST_F(FairnessTest, CountsQuestionsWithTwoAnswersByTheRules)
         {10, "100,,,,E1,,G1,A,B", "300,,,,E2,,G2,B,A", 0, 0}, // the groups differ
         {13, "100,ca.,,,E1,,G1,N1,", "110,ca.,,,E2,,G2,N2,", 100, 0},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         const Fairness found = drawn(c.type, c.first, c.second);
         const auto isabout = [](std::int64_t count, int wanted) {
             return wanted == 0 || wanted == 100 ? count == wanted : std::abs(count - wanted) <= 15;

@@ -1,8 +1,5 @@
 #include "authoring/eventpictures.h"
-#include "base/files.h"
 #include "tools/sample.h"
-
-#include <ctime>
 
 namespace brindor::authoring {
 

@@ -9,11 +9,10 @@
 #include "mapmaker/locatormap.h"
 #include "mapmaker/picturefile.h"
 #include "mapmaker/titlepicture.h"
+#include "support/pictures.h"
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <algorithm>
-#include <chrono>
 
 namespace brindor::mapmaker {
 
@@ -39,31 +38,17 @@ QImage loaded(const std::string& file)
     return QImage(QString::fromStdString(file));
 }
 
-// How many pixels of two pictures are plainly of different colours.
-int differing(const QImage& one, const QImage& other)
-{
-    EXPECT_EQ(one.size(), other.size());
-    int count = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QColor a = one.pixelColor(x, y);
-            const QColor b = other.pixelColor(x, y);
-            count += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue()) > 24;
-        }
-    }
-    return count;
-}
+constexpr int plainly = 10;
 
 // How many pixels of a picture differ from the approved one, both seen from afar. BRINDOR_APPROVE=1 approves it.
 int changed(const QImage& picture, const std::string& name)
 {
     const std::string file = SAMPLES "/" + name + ".png";
-    const QImage afar = picture.convertToFormat(QImage::Format_RGB32)
-                            .scaled(picture.size() / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage seen = afar(picture);
     if (qEnvironmentVariableIsSet("BRINDOR_APPROVE")) {
-        afar.save(QString::fromStdString(file));
+        seen.save(QString::fromStdString(file));
     }
-    return differing(afar, loaded(file));
+    return differing(seen, loaded(file), plainly);
 }
 
 } // namespace
@@ -137,7 +122,7 @@ TEST_F(Mapmaker, OtherEventsAreFaintDotsAndTheOwnPlaceIsNone)
     const Position here{34.27, 108.93};
     const QImage alone = drawn(here, "Here");
     EXPECT_EQ(drawn(here, "Here", {here}), alone);
-    const int dot = differing(drawn(here, "Here", {here, {39, 101}, {39, 101}, {0, 0}}), alone);
+    const int dot = differing(drawn(here, "Here", {here, {39, 101}, {39, 101}, {0, 0}}), alone, plainly);
     EXPECT_TRUE(dot > 12 && dot < 40) << dot;
 }
 

@@ -82,12 +82,11 @@ TEST_F(Packs, AStrangersPackIsTakenForHostile)
     std::string outside = timeline;
     outside.replace(outside.find("my-voyages/own.bmp"), 18, "../x.bmp");
     const std::string dots = "no part of it may be empty or begin with a dot\n";
-    struct Case {
+    const struct {
         const char* name;
         std::string content;
         std::string said;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {"../.bashrc", "x", " is not added: \"../.bashrc\" in it is no picture's name; " + dots},
         {"brindor", "x",
          " is not added: \"brindor\" in it is no picture's name; it must end in png, jpg, jpeg, bmp or gif\n"},

@@ -3,11 +3,6 @@
 #include "authoring/commands.h"
 #include "support/programtest.h"
 
-#include <filesystem>
-#include <gtest/gtest.h>
-#include <string>
-#include <vector>
-
 // SAMPLES, from the build, is the folder of the samples: spreadsheets whose rows say what is wrong with them, beside
 // what the tools report on them.
 namespace brindor::tests {

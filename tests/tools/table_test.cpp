@@ -3,8 +3,6 @@
 #include "timeline/writer.h"
 #include "tools/sample.h"
 
-#include <algorithm>
-
 namespace brindor::authoring {
 
 using namespace tests;
@@ -45,13 +43,12 @@ std::string valueof(const Result<Value>& value)
 
 TEST(Csv, IsReadAsSpreadsheetsWriteIt)
 {
-    struct Case {
+    const struct {
         const char* about;
         std::string text;
         std::string expected;
         char separator = ',';
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {"nothing", "", ""},
         {"no end of the last line", "a,b\nc,d", "1:a|b\n2:c|d\n"},
         {"CR LF", "a,b\r\nc,d\r\n", "1:a|b\n2:c|d\n"},
@@ -67,7 +64,7 @@ TEST(Csv, IsReadAsSpreadsheetsWriteIt)
         {"a lone quote", "a,b\nc,d \"x\" e\n",
          "1:a|b\n2/2: a quote inside a text must be doubled, and the whole text must stand in quotes"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(shown(parsecsv(c.text, c.separator)), c.expected) << c.about;
     }
     EXPECT_EQ(csvline({"", "plain", "a, b", "the \"Great\"", "", "Malmö"}),

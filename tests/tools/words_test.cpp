@@ -1,10 +1,6 @@
 #include "authoring/words.h"
 #include "tools/sample.h"
 
-#include <algorithm>
-#include <array>
-#include <gtest/gtest.h>
-
 namespace brindor::authoring {
 
 using tests::each;

@@ -17,14 +17,13 @@ TEST_F(WritingTest, OneProcedureDecidesWhatIsWritten)
     writefile("out/old.bmp", bmpfile(8, 6));
     writefile("out/text.bmp", "the only copy of a diary");
     writefile("out/brindor", "the game");
-    struct Case {
+    const std::string dots = "no part of it may be empty or begin with a dot";
+    const struct {
         std::string name;
         std::string content;
         bool overwrite;
         std::string said; // a part of it; empty: written
-    };
-    const std::string dots = "no part of it may be empty or begin with a dot";
-    const std::vector<Case> cases = {
+    } cases[] = {
         {"new/a.bmp", picture, false, ""},
         {"new/a.bmp", picture, false, ""}, // the same again
         {"a.csv", "anything", false, ""},

@@ -13,12 +13,8 @@
 #include "quiz/qsort.h"
 #include "setup/curstats.h"
 #include "setup/setup.h"
-#include "timeline/timeline.h"
-#include "toolkit/operations.h"
 
 #include <QScrollArea>
-
-#include <filesystem>
 
 namespace brindor::tests {
 

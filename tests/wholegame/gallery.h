@@ -2,10 +2,6 @@
 
 #include "toolkit/windows.h"
 
-#include <functional>
-#include <string>
-#include <vector>
-
 namespace brindor::tests {
 
 // Every screen of the game and its messages, with the Timeline that is loaded. The questions are drawn with a fixed

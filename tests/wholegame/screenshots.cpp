@@ -4,14 +4,9 @@
 #include "questions/question.h"
 #include "timeline/reader.h"
 #include "toolkit/qt/appearance.h"
-#include "toolkit/qt/qthost.h"
 #include "toolkit/qt/zoom.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QTest>
-
-#include <cstdio>
 
 // Draws every screen, with the timelines of a game folder, into another: screenshots GAMEFOLDER INTO ZOOM. With "max"
 // behind the zoom the windows are maximised.

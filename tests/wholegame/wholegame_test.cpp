@@ -1,18 +1,13 @@
 #include "frame/mainscreen.h"
 #include "support/gametest.h"
 #include "support/randomplayer.h"
-#include "toolkit/operations.h"
-#include "toolkit/qt/qthost.h"
 #include "toolkit/windows.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QMessageBox>
 
 // Games from the main screen to its end, in windows and with the mouse.
 namespace brindor::tests {
-
-namespace {
 
 using WholeGame = GameTest;
 
@@ -45,7 +40,5 @@ TEST_F(WholeGame, SomethingThatAUserDoesBringsTheWindowsOutOfOrder)
         EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString() << " is left open";
     }
 }
-
-} // namespace
 
 } // namespace brindor::tests

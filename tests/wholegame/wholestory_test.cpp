@@ -1,128 +1,69 @@
-#include "base/files.h"
 #include "frame/mainscreen.h"
 #include "support/gametest.h"
 #include "support/randomplayer.h"
-#include "support/story.h"
 #include "timeline/writer.h"
-#include "toolkit/operations.h"
 
-#include <algorithm>
-#include <csignal>
-#include <cstdlib>
-#include <limits>
 #include <regex>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace brindor::tests {
 
 using namespace toolkit;
 
-// A whole story: start, setup, another period and its records, a game of three questions, quit.
-class Faults : public GameTest {
-protected:
-    Faults()
-    {
-        auto& persons = host.persons;
-        setnumbered(12, 12);
-        timeline_ = timelinetext();
-        writefile("Ancient.bd3", timeline_);
-        writefile("Classic.bd3", timeline_);
-        nquestion = 3;
-        writesettings();
-        settings_ = contentof("bdq.INI");
-        host.pictures["TITLE.BMP"] = 0;
-        persons["main"] = does("cmdsetup; Command1; cmdquit");
-        persons["setup"] = does("nquestion=4; cmdEdit; cmdok"); // what the player changes in this run
-        persons["bdqedit"] = does("Option1(1); cmdPeople; cmdEvents; Command1");
-        persons["PEntry"] = persons["eEntry"] = does("cmdNext; esc");
-        persons["mchoice"] = [](Screen& screen) { press(controlof(screen, "choice(4)")); };
-        persons["qsort"] = persons["qmatch"] = persons["showscor"] = does("Command1");
-    }
+using WholeStory = GameTest;
 
-    std::function<void(Screen&)> does(const char* story)
-    {
-        return [this, story](Screen& screen) { told_ += act(host, screen, story); };
-    }
-
-    void play(FaultPlan plan)
-    {
-        told_.clear();
+// A whole story: start, setup, another period and its records, a game of three questions, quit. After each: the game
+// has gone on to its end, what could not be written or read was told, the settings are the old ones or the new ones and
+// never a part, and the timelines are untouched.
+TEST_F(WholeStory, AFailedFileCallIsNotToldOrLosesSomething)
+{
+    setnumbered(12, 12);
+    const std::string timeline = timelinetext();
+    writefile("Ancient.bd3", timeline);
+    writefile("Classic.bd3", timeline);
+    nquestion = 3;
+    writesettings();
+    const std::string settings = contentof("bdq.INI");
+    host.pictures["TITLE.BMP"] = 0;
+    std::string told; // all messages, and the steps of the story that were refused
+    const auto does = [&](const char* story) {
+        return [&, story](Screen& screen) { told += act(host, screen, story); };
+    };
+    auto& persons = host.persons;
+    persons["main"] = does("cmdsetup; Command1; cmdquit");
+    persons["setup"] = does("nquestion=4; cmdEdit; cmdok"); // what the player changes in this run
+    persons["bdqedit"] = does("Option1(1); cmdPeople; cmdEvents; Command1");
+    persons["PEntry"] = persons["eEntry"] = does("cmdNext; esc");
+    persons["mchoice"] = [](Screen& screen) { press(controlof(screen, "choice(4)")); };
+    persons["qsort"] = persons["qmatch"] = persons["showscor"] = does("Command1");
+    const auto play = [&](FaultPlan plan) {
+        told.clear();
         forgetfailures();
-        writefile("bdq.INI", settings_);
+        writefile("bdq.INI", settings);
         faultplan = plan;
         MainScreen screen(folder.path().string());
         showmodal(screen);
-        calls_ = faultplan.calls;
-        faultplan = {};
-        told_ += said(host);
-    }
-
-    std::string timeline_;
-    std::string settings_;
-    std::string told_; // all messages, and the steps of the story that were refused
-    std::int64_t calls_ = 0;
-};
-
-// After each: the game has gone on to its end, what could not be written or read was told, the settings are the old
-// ones or the new ones and never a part, and the timelines are untouched.
-TEST_F(Faults, AFailedFileCallIsNotToldOrLosesSomething)
-{
-    play({});
+        const std::int64_t calls = std::exchange(faultplan, {}).calls;
+        told += said(host);
+        return calls;
+    };
+    const std::int64_t calls = play({});
     ASSERT_EQ(contentof("bdq.INI").substr(0, 13), "1 1 4 1\r\n1 8 ");
-    ASSERT_TRUE(std::regex_match(told_, std::regex("You scored .*\n"))) << told_;
-    const std::int64_t calls = calls_;
+    ASSERT_TRUE(std::regex_match(told, std::regex("You scored .*\n"))) << told;
     ASSERT_GT(calls, 30);
     for (std::int64_t n = 1; n <= calls; ++n) {
         for (const bool forever : {false, true}) {
             SCOPED_TRACE("call " + std::to_string(n) + (forever ? " and all after it" : ""));
             play({n, forever, 0});
-            EXPECT_EQ(told_.find('!'), std::string::npos) << told_;
-            EXPECT_EQ(contentof("Ancient.bd3") + contentof("Classic.bd3"), timeline_ + timeline_);
+            EXPECT_EQ(told.find('!'), std::string::npos) << told;
+            EXPECT_EQ(contentof("Ancient.bd3") + contentof("Classic.bd3"), timeline + timeline);
             EXPECT_FALSE(std::filesystem::exists("bdq.INI.new"));
             const std::string now = contentof("bdq.INI");
             EXPECT_EQ(std::count(now.begin(), now.end(), '\n'), 25) << now;
             const bool logged = contentof("bdqquiz.log").find("---- Question 4") != std::string::npos;
-            const bool silent = std::regex_match(told_, std::regex("(You scored .*\n)?"));
+            const bool silent = std::regex_match(told, std::regex("(You scored .*\n)?"));
             EXPECT_TRUE(!silent || (logged && now.starts_with("1 1 4 1\r\n1 ")))
-                << "something is missing and nothing was said: " << told_;
+                << "something is missing and nothing was said: " << told;
         }
-    }
-}
-
-// The settings file is exchanged for a folder, and the timeline is cut, while the program runs.
-TEST_F(Faults, AFileThatChangesUnderTheGameIsNotTold)
-{
-    host.persons["setup"] = [this](Screen& screen) {
-        std::filesystem::remove("bdq.INI");
-        std::filesystem::create_directory("bdq.INI");
-        writefile("Classic.bd3", timeline_.substr(0, timeline_.size() / 2));
-        does("cmdEdit; cmdok")(screen);
-    };
-    play({});
-    EXPECT_TRUE(std::regex_match(told_, std::regex("Classic.bd3, line 185: the file ends here.*\nbdq.INI cannot be "
-                                                   "written: Not a regular file.*\nYou scored .*\n")))
-        << told_;
-}
-
-// BRINDOR_KILLS makes it longer.
-TEST_F(Faults, AProgramKilledWhileItWritesLeavesAPartOfTheSettings)
-{
-    const char* wanted = std::getenv("BRINDOR_KILLS");
-    const std::string other(3000, 'x');
-    for (int kill = 0; kill < (wanted != nullptr ? std::atoi(wanted) : 50); ++kill) {
-        ASSERT_TRUE(replacefile("bdq.INI", settings_).value.has_value());
-        ASSERT_FALSE(std::filesystem::exists("bdq.INI.new"));
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        for (int i = 0; child == 0; ++i) {
-            replacefile("bdq.INI", i % 2 == 0 ? other : settings_);
-        }
-        ::usleep(static_cast<useconds_t>(kill * 59 % 3001));
-        ::kill(child, SIGKILL);
-        ::waitpid(child, nullptr, 0);
-        const std::string left = contentof("bdq.INI");
-        ASSERT_TRUE(left == settings_ || left == other) << "kill " << kill << ": " << left;
     }
 }
 
