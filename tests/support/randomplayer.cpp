@@ -21,7 +21,7 @@ RandomPlayer::RandomPlayer(int questions, double slowest) : clicks(click), slowe
     const char* seed = std::getenv("BRINDOR_SEED");
     const char* wanted = std::getenv("BRINDOR_QUESTIONS");
     const std::uint64_t drawnseed = seed != nullptr ? std::strtoull(seed, nullptr, 10) : std::random_device()();
-    std::cout << "BRINDOR_SEED=" << drawnseed << '\n';
+    std::cout << "BRINDOR_SEED=" << drawnseed << std::endl; // before anything can stand still
     random_.seed(drawnseed);
     questions_ = wanted != nullptr ? std::atoi(wanted) : questions;
 }
