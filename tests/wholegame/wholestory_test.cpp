@@ -3,7 +3,10 @@
 #include "support/randomplayer.h"
 #include "timeline/writer.h"
 
+#include <csignal>
 #include <regex>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace brindor::tests {
 
@@ -64,6 +67,36 @@ TEST_F(WholeStory, AFailedFileCallIsNotToldOrLosesSomething)
             EXPECT_TRUE(!silent || (logged && now.starts_with("1 1 4 1\r\n1 ")))
                 << "something is missing and nothing was said: " << told;
         }
+    }
+    persons["setup"] = [&](Screen& screen) { // the settings become a folder and the timeline is cut under the game
+        std::filesystem::remove("bdq.INI");
+        std::filesystem::create_directory("bdq.INI");
+        writefile("Classic.bd3", timeline.substr(0, timeline.size() / 2));
+        does("cmdEdit; cmdok")(screen);
+    };
+    play({});
+    EXPECT_TRUE(std::regex_match(told, std::regex("Classic.bd3, line 185: the file ends here.*\nbdq.INI cannot be "
+                                                  "written: Not a regular file.*\nYou scored .*\n")))
+        << told;
+}
+
+// BRINDOR_KILLS makes it longer.
+TEST_F(WholeStory, AProgramKilledWhileItWritesLeavesAPartOfTheSettings)
+{
+    const char* wanted = std::getenv("BRINDOR_KILLS");
+    const std::string files[] = {std::string(3000, 'x'), "1 1 4 1\r\n"};
+    for (int kill = 0; kill < (wanted != nullptr ? std::atoi(wanted) : 50); ++kill) {
+        ASSERT_TRUE(replacefile("bdq.INI", files[1]).value.has_value());
+        ASSERT_FALSE(std::filesystem::exists("bdq.INI.new"));
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        for (std::size_t i = 0; child == 0; ++i) {
+            replacefile("bdq.INI", files[i % 2]);
+        }
+        ::usleep(static_cast<useconds_t>(kill * 59 % 3001));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        ASSERT_NE(std::find(std::begin(files), std::end(files), contentof("bdq.INI")), std::end(files)) << kill;
     }
 }
 
