@@ -197,7 +197,7 @@ TEST_F(Mapmaker, AFileThatIsTooLargeLosesColours)
 {
     QImage busy(300, 200, QImage::Format_RGB32);
     for (int i = 0; i < 300 * 200; ++i) {
-        busy.setPixel(i % 300, i / 300, qRgb(i * 37 % 256, i * i % 256, i * 53 % 256));
+        busy.setPixel(i % 300, i / 300, qRgb(i * 37 % 256, i % 256 * (i % 256) % 256, i * 53 % 256));
     }
     const auto colours = [&](std::size_t limit) {
         const std::string bytes = pngbytes(busy, {QColor(1, 2, 3), QColor(250, 250, 250)}, limit, Colours::fewer);
