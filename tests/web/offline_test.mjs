@@ -57,7 +57,14 @@ test("With the network gone the game does not start, or a map that was seen is l
     const seen = await maps(game, 2);
     assert.ok(Math.min(...seen) > 100, `${seen}`);
     await kept(game.page);
-    await game.page.run(() => new Promise((done) => requestIdleCallback(done)));
+    await game.page.run(async () => {
+        const shown = performance.getEntriesByType("resource").filter((e) => e.initiatorType === "img");
+        for (const { name } of shown.filter((e) => e.name.startsWith(location.origin))) {
+            while (!(await caches.match(name))) {
+                await new Promise((done) => setTimeout(done, 20));
+            }
+        }
+    });
     await game.server.stop();
     assert.equal(await game.again(), "main");
     assert.deepEqual(await maps(game, 2), seen);
